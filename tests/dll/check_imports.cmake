@@ -1,0 +1,18 @@
+# The DLL must load on a plain Windows: it may import system DLLs only, never the
+# MinGW runtime (libstdc++, libgcc, winpthread).
+execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE _dump RESULT_VARIABLE _rc)
+if(NOT _rc EQUAL 0)
+    message(FATAL_ERROR "objdump failed on ${DLL}")
+endif()
+string(REGEX MATCHALL "DLL Name: [^\n]+" _imports "${_dump}")
+if(NOT _imports)
+    message(FATAL_ERROR "no imports found: is ${DLL} a DLL?")
+endif()
+foreach(_line IN LISTS _imports)
+    string(REPLACE "DLL Name: " "" _name "${_line}")
+    string(TOLOWER "${_name}" _lower)
+    message(STATUS "imports ${_name}")
+    if(_lower MATCHES "libstdc|libgcc|winpthread|libssp")
+        message(FATAL_ERROR "imports a MinGW runtime DLL: ${_name}")
+    endif()
+endforeach()
