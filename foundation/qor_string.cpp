@@ -216,12 +216,12 @@ void CQorString::empty() {
 
 namespace {
 
-// Formats one numeric conversion with the C library; spec holds a complete,
+// Formats one numeric conversion with the C library; conversion holds a complete,
 // portable conversion ("%-08.3f", "%lld").
-template <class V> void appendFormatted(std::wstring& out, const std::wstring& spec, V value) {
+template <class V> void appendFormatted(std::wstring& out, const std::wstring& conversion, V value) {
     std::vector<wchar_t> buf(64);
     for (;;) {
-        const int n = std::swprintf(buf.data(), buf.size(), spec.c_str(), value);
+        const int n = std::swprintf(buf.data(), buf.size(), conversion.c_str(), value);
         if (n >= 0 && static_cast<std::size_t>(n) < buf.size()) {
             out.append(buf.data(), static_cast<std::size_t>(n));
             return;
@@ -362,11 +362,11 @@ int CQorString::formatV(const wchar_t* fmt, va_list args) {
         if (!conv)
             break;
         ++p;
-        std::wstring spec = L"%" + flags;
+        std::wstring conversion = L"%" + flags;
         if (width >= 0)
-            spec += std::to_wstring(width);
+            conversion += std::to_wstring(width);
         if (precision >= 0)
-            spec += L"." + std::to_wstring(precision);
+            conversion += L"." + std::to_wstring(precision);
         const bool leftAlign = flags.find(L'-') != std::wstring::npos;
         switch (conv) {
         case L'd':
@@ -376,8 +376,8 @@ int CQorString::formatV(const wchar_t* fmt, va_list args) {
         case L'x':
         case L'X': {
             const bool isSigned = conv == L'd' || conv == L'i';
-            spec += L"ll";
-            spec += conv;
+            conversion += L"ll";
+            conversion += conv;
             long long sv = 0;
             unsigned long long uv = 0;
             switch (size) {
@@ -407,9 +407,9 @@ int CQorString::formatV(const wchar_t* fmt, va_list args) {
             }
             }
             if (isSigned)
-                appendFormatted(out, spec, sv);
+                appendFormatted(out, conversion, sv);
             else
-                appendFormatted(out, spec, uv);
+                appendFormatted(out, conversion, uv);
             break;
         }
         case L'f':
@@ -421,17 +421,17 @@ int CQorString::formatV(const wchar_t* fmt, va_list args) {
         case L'a':
         case L'A':
             if (size == kLongDouble) {
-                spec += L'L';
-                spec += conv;
-                appendFormatted(out, spec, va_arg(ap, long double));
+                conversion += L'L';
+                conversion += conv;
+                appendFormatted(out, conversion, va_arg(ap, long double));
             } else {
-                spec += conv;
-                appendFormatted(out, spec, va_arg(ap, double));
+                conversion += conv;
+                appendFormatted(out, conversion, va_arg(ap, double));
             }
             break;
         case L'p':
-            spec += L'p';
-            appendFormatted(out, spec, va_arg(ap, void*));
+            conversion += L'p';
+            appendFormatted(out, conversion, va_arg(ap, void*));
             break;
         case L'c':
         case L'C': {
