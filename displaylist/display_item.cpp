@@ -1,0 +1,3 @@
+#include "displaylist/display_item.h"
+
+CQorDisplayItem::~CQorDisplayItem() = default;

@@ -1,0 +1,138 @@
+#include "displaylist/gdx.h"
+
+#include "gdx_test_util.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+int topGroup(const CQorGDX& gdx, int i) {
+    CQorArrayTempl<int> s;
+    gdx.itemStackGet(s, i);
+    return s[0];
+}
+
+} // namespace
+
+TEST(Order, SingleItemIsLeftAloneAndCanStillBePicked) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {4}, 0, segment(0, 0, 100, 0));
+    const CQorDisplayItem* before = gdx.getDisplayList().data();
+    gdx.displListSort();
+    EXPECT_EQ(gdx.getDisplayList().data(), before);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(50, 3, 0)), 4);
+}
+
+TEST(Order, PlainRegionsGoUnderLinesAndKeepTheirOrder) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {1}, 0, segment(0, 0, 1, 1));
+    addRegion(gdx, {2}, 0, region(rect(0, 0, 1, 1)));
+    addRegion(gdx, {3}, 0, region(rect(0, 0, 1, 1)));
+    gdx.displListSort();
+    EXPECT_EQ(topGroup(gdx, 0), 2);
+    EXPECT_EQ(topGroup(gdx, 1), 3);
+    EXPECT_EQ(topGroup(gdx, 2), 1);
+}
+
+TEST(Order, ListInLayerOrderIsNotCopied) {
+    CQorGDX gdx = plainDoc();
+    addRegion(gdx, {1}, 0, region(rect(0, 0, 1, 1)));
+    addLine(gdx, {2}, 0, segment(0, 0, 1, 1));
+    addLine(gdx, {3}, 0x200, segment(0, 0, 1, 1));
+    gdx.imagePicture(path({4}), 0x100, L"p.bmp", 1, CQorPoint3d(), CQorPoint3d());
+    const CQorDisplayItem* before = gdx.getDisplayList().data();
+    gdx.displListSort();
+    EXPECT_EQ(gdx.getDisplayList().data(), before);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(topGroup(gdx, i), i + 1);
+}
+
+TEST(Order, HighlightedRegionLiesBetweenReferLineAndHighlightedLine) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {1}, 0x100, segment(0, 0, 1, 1));             // highlighted line: 5
+    addRegion(gdx, {2}, 0x100, region(rect(0, 0, 1, 1)));      // highlighted region: 4
+    addLine(gdx, {3}, 0x200, segment(0, 0, 1, 1));             // refer line: 3
+    gdx.displListSort();
+    EXPECT_EQ(topGroup(gdx, 0), 3);
+    EXPECT_EQ(topGroup(gdx, 1), 2);
+    EXPECT_EQ(topGroup(gdx, 2), 1);
+}
+
+TEST(Order, ModeSixSortsWithPlainItemsAndPicturesGoLast) {
+    CQorGDX gdx = plainDoc();
+    gdx.imagePicture(path({1}), 0, L"p.bmp", 1, CQorPoint3d(), CQorPoint3d());
+    addLine(gdx, {2}, 0x600, segment(0, 0, 1, 1));
+    addRegion(gdx, {3}, 0x600, region(rect(0, 0, 1, 1)));
+    addLine(gdx, {4}, 0x100, segment(0, 0, 1, 1));
+    gdx.displListSort();
+    EXPECT_EQ(topGroup(gdx, 0), 3); // region, mode 6: bottom layer
+    EXPECT_EQ(topGroup(gdx, 1), 2); // line, mode 6: with plain lines
+    EXPECT_EQ(topGroup(gdx, 2), 4); // highlighted line
+    EXPECT_EQ(topGroup(gdx, 3), 1); // picture over all
+}
+
+TEST(Pick, OverlappingLinesAnswerWithTheOneDrawnLast) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {1}, 0, segment(0, 0, 100, 0));
+    addLine(gdx, {2}, 0, segment(0, 0, 100, 0));
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(50, 1, 0)), 2);
+}
+
+TEST(Pick, ReversalStaysSoTheNextPickGivesTheOtherGroup) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {1}, 0, segment(0, 0, 100, 0));
+    addLine(gdx, {2}, 0, segment(0, 0, 100, 0));
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(50, 0, 0)), 2);
+    EXPECT_EQ(topGroup(gdx, 0), 2);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(50, 0, 0)), 1);
+}
+
+TEST(Pick, ToleranceOfFiveIsInclusive) {
+    CQorGDX gdx = plainDoc();
+    addPoint(gdx, {7}, 0, CQorPoint3d(10, 10, 0));
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(13, 14, 0)), 7); // exactly 5 away
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(13, 14.01, 0)), -1);
+}
+
+TEST(Pick, OnlyTheOuterEdgeOfARegionIsHit) {
+    CQorGDX gdx = plainDoc();
+    CQorArrayTempl<CQorVertexArray> withHole = region(rect(0, 0, 100, 100));
+    withHole.append(rect(40, 40, 60, 60));
+    addRegion(gdx, {3}, 0, withHole);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(40, 50, 0)), -1); // on the hole
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(20, 20, 0)), -1); // inside
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(0, 50, 0)), 3);   // on the outer edge
+}
+
+TEST(Pick, TextAndPicturesAreNeverReturned) {
+    CQorGDX gdx = plainDoc();
+    gdx.imagePicture(path({1}), 0, L"p.bmp", 1, CQorPoint3d(0, 0, 0), CQorPoint3d(10, 10, 0));
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(0, 0, 0)), -1);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(5, 5, 0)), -1);
+}
+
+TEST(Pick, HiddenItemsAreFoundAndTheItemMatrixCounts) {
+    CQorGDX gdx = plainDoc();
+    CQorMatrix3d shift;
+    shift.setToTranslation(CQorVector3d(0, 100, 0));
+    gdx.imageVl(path({9}), GDX_FLAG_HIDDEN, segment(0, 0, 10, 0), indexed(1), shift,
+                CQorArrayTempl<double>(), 1.0, 1, CQorPoint3d());
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(5, 0, 0)), -1);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(5, 100, 0)), 9);
+}
+
+TEST(Pick, DevicePointGoesThroughTheViewFirst) {
+    CQorGDX gdx = plainDoc();
+    addPoint(gdx, {5}, 0, CQorPoint3d(10, 10, 0));
+    CQorMatrix3d view;
+    view.setToScaling(10.0, CQorPoint3d::kOrigin);
+    gdx.viewMtxSet(view);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(100, 130, 0)), 5); // world (10, 13)
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(10, 13, 0)), -1);
+}
+
+TEST(Pick, ItemWithoutStackAnswersZero) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {}, 0, segment(0, 0, 10, 0));
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(5, 0, 0)), 0);
+}
