@@ -92,6 +92,15 @@ public:
         return *this;
     }
 
+    // Appends v by moving it in; v must not be an element of this array.
+    CQorArrayTempl& append(T&& v) {
+        if (m_length == m_capacity)
+            reserveExactly(grownCapacity(m_capacity, m_length + 1));
+        ::new (static_cast<void*>(data() + m_length)) T(std::move(v));
+        ++m_length;
+        return *this;
+    }
+
     // Appends all elements of other (other may be this array).
     CQorArrayTempl& operator+=(const CQorArrayTempl& other) {
         if (&other == this) {

@@ -210,3 +210,14 @@ TEST(Array, IsAnObjectOfTheSystem) {
     EXPECT_EQ(base->len(), 3);
     delete base;
 }
+
+TEST(Array, AppendByMoveTakesTheValueOver) {
+    CQorArrayTempl<CQorArrayTempl<int>> a;
+    CQorArrayTempl<int> inner;
+    inner += 4;
+    const int* storage = inner.data();
+    a.append(std::move(inner));
+    ASSERT_EQ(a.len(), 1);
+    EXPECT_EQ(a[0].data(), storage);
+    EXPECT_EQ(a[0][0], 4);
+}
