@@ -83,7 +83,7 @@ void CQorGDX::imageVl(const CQorArrayTempl<int>& stack, unsigned long flag,
     item.mtx = mtx;
     if (flag & GDX_FLAG_FIXED_SIZE)
         item.point = anchor;
-    m_displayList.append(item);
+    m_displayList.append(std::move(item));
     if (countsForExtents(flag))
         refresh_ext(vl, m_projMtx * m_viewDirectionMtx * mtx);
 }
@@ -102,7 +102,7 @@ void CQorGDX::imagePt(const CQorArrayTempl<int>& stack, unsigned long flag, cons
     item.pdMode = static_cast<std::uint32_t>(pdMode);
     if (flag & GDX_FLAG_FIXED_SIZE)
         item.vertices.append(CQorVertex(anchor, CQorPoint3d(), 0.0));
-    m_displayList.append(item);
+    m_displayList.append(std::move(item));
     if (countsForExtents(flag))
         refresh_ext(pt, m_projMtx * m_viewDirectionMtx * mtx);
 }
@@ -129,7 +129,7 @@ void CQorGDX::imageReg(const CQorArrayTempl<int>& stack, unsigned long flag,
         item.point = anchor;
     if (flag & (GDX_FLAG_FILL | GDX_FLAG_HATCH))
         item.fcolor = fcolor.colorIndex() >= 0 ? fcolor : color;
-    m_displayList.append(item);
+    m_displayList.append(std::move(item));
     if (countsForExtents(flag))
         refresh_ext(regions.len() > 0 ? regions[0] : emptyContour(),
                     m_projMtx * m_viewDirectionMtx * mtx);
@@ -146,12 +146,12 @@ void CQorGDX::imagePicture(const CQorArrayTempl<int>& stack, unsigned long flag,
     item.pdMode = static_cast<std::uint32_t>(number);
     if (p1 != p2)
         item.vertices.append(CQorVertex(p1, p2, 0.0));
-    m_displayList.append(item);
+    m_displayList.append(std::move(item));
 }
 
 bool CQorGDX::addDisplayList(const CQorArrayTempl<CQorDisplayItem>& items) {
     for (const CQorDisplayItem& item : items)
-        m_displayList.append(item);
+        m_displayList.append(std::move(item));
     return items.len() > 0;
 }
 
@@ -250,8 +250,12 @@ bool CQorGDX::cModeSet(const CQorArrayTempl<int>& stack, QOR::GdxColorMode mode)
 
 bool CQorGDX::propSet(const CQorArrayTempl<int>& stack, unsigned long code) {
     const CQorArrayTempl<int> items = StackToItemNr(stack);
+    bool changed = false;
     for (int i : items)
-        flagSet(i, code);
+        changed = applyFlagCode(i, code) || changed;
+    // One rebuild after all changes gives the same extents as one after each.
+    if (changed)
+        refresh_ext();
     return items.len() > 0;
 }
 
@@ -259,8 +263,11 @@ bool CQorGDX::redraw(const CQorArrayTempl<int>& stack, unsigned long code) {
     if (lenGet() == 0)
         return false;
     if (stack.len() == 0) {
+        bool changed = false;
         for (int i = 0; i < lenGet(); ++i)
-            flagSet(i, code);
+            changed = applyFlagCode(i, code) || changed;
+        if (changed)
+            refresh_ext();
     } else {
         propSet(stack, code);
     }
@@ -318,21 +325,30 @@ bool CQorGDX::mtxSet(const CQorArrayTempl<int>& stack, const CQorMatrix3d& m) {
     return true;
 }
 
-bool CQorGDX::clear(const CQorArrayTempl<int>& stack) {
-    CQorArrayTempl<int> items = StackToItemNr(stack);
-    items.sort();
-    items.revert();
-    for (int i : items)
-        removeItem(i);
-    return items.len() > 0;
-}
+bool CQorGDX::clear(const CQorArrayTempl<int>& stack) { return removeSelected(stack); }
 
-bool CQorGDX::removeItemStack(const CQorArrayTempl<int>& stack) {
-    CQorArrayTempl<int> items = StackToItemNr(stack);
-    items.revert();
-    for (int i : items)
-        removeItem(i);
-    return items.len() > 0;
+bool CQorGDX::removeItemStack(const CQorArrayTempl<int>& stack) { return removeSelected(stack); }
+
+// Removing the selected items one by one from the highest index down, each with a
+// rebuild, leaves the same list and extents as one pass that keeps the others in
+// order followed by one rebuild.
+bool CQorGDX::removeSelected(const CQorArrayTempl<int>& stack) {
+    const CQorArrayTempl<int> items = StackToItemNr(stack);
+    if (items.len() == 0)
+        return false;
+    int kept = 0;
+    for (int i = 0, next = 0; i < lenGet(); ++i) {
+        if (next < items.len() && items[next] == i) {
+            ++next;
+            continue;
+        }
+        if (kept != i)
+            m_displayList[kept] = std::move(m_displayList[i]);
+        ++kept;
+    }
+    m_displayList.setLogicalLength(kept);
+    refresh_ext();
+    return true;
 }
 
 int CQorGDX::stackGet() const {
@@ -369,6 +385,13 @@ void CQorGDX::clear() {
 // --- Flag word, removal and the extents cache ---------------------------------------
 
 bool CQorGDX::flagSet(int i, unsigned long code) {
+    if (!applyFlagCode(i, code))
+        return false;
+    refresh_ext();
+    return true;
+}
+
+bool CQorGDX::applyFlagCode(int i, unsigned long code) {
     std::uint32_t set = 0, clear = 0;
     switch (code) {
     case GDX_PROP_SHOW:
@@ -406,7 +429,6 @@ bool CQorGDX::flagSet(int i, unsigned long code) {
     }
     std::uint32_t& flag = m_displayList[i].flag;
     flag = (flag | set) & ~clear;
-    refresh_ext();
     return true;
 }
 

@@ -170,6 +170,9 @@ protected:
 
 private:
     const CQorDisplayItem& itemAt(int i) const { return m_displayList[i]; }
+    // The change of a flagSet code without the rebuild; false for unknown codes.
+    bool applyFlagCode(int i, unsigned long code);
+    bool removeSelected(const CQorArrayTempl<int>& stack);
     bool isPrefixOf(const CQorArrayTempl<int>& path, const CQorDisplayItem& item) const;
     bool isExactly(const CQorArrayTempl<int>& path, const CQorDisplayItem& item) const;
     void foldItem(CQorDisplayItem& item, const CQorMatrix3d& m);
