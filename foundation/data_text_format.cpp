@@ -310,6 +310,14 @@ private:
         const char* start = m_p;
         while (!atEnd() && !isDelimiter(*m_p))
             ++m_p;
+        // A NaN carries its bits in parentheses: nan(0x...).
+        if (m_p - start == 3 && std::memcmp(start, "nan", 3) == 0 && !atEnd() && *m_p == '(') {
+            const char* q = m_p;
+            while (q < m_end && *q != ')' && *q != '\n' && q - m_p < 24)
+                ++q;
+            if (q < m_end && *q == ')')
+                m_p = q + 1;
+        }
         return std::string(start, m_p);
     }
 
