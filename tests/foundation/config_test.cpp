@@ -1,0 +1,100 @@
+#include "foundation/data_tree.h"
+
+#include <gtest/gtest.h>
+
+using namespace QOR;
+
+namespace {
+// The store is process-wide: each test starts from an empty one.
+class Config : public ::testing::Test {
+protected:
+    void SetUp() override { cfgMgrPtr()->clear(); }
+    void TearDown() override { cfgMgrPtr()->clear(); }
+
+    // The documented road of a write into the store.
+    template <class T> static void write(const CQorDataKey& key, const T& value) {
+        CQorDataDir* dir = cfgMgrPtr()->getCfgRoot(key);
+        ASSERT_NE(dir, nullptr);
+        CQorDataItem* item = nullptr;
+        if (key.next()) {
+            const CQorDataKey first = key.first();
+            item = dir->makeDir(&first);
+        } else {
+            item = dir->makeItem(&key);
+        }
+        ASSERT_NE(item, nullptr);
+        dataItemSet(item, key.next(), value);
+    }
+};
+} // namespace
+
+TEST_F(Config, ValueWrittenByTheDocumentedRoadIsFoundByTheSameKey) {
+    const CQorDataKey key(L"*HOLE*\\BT");
+    write(key, CQorString(L"current"));
+    CQorDataItem* item = cfg_get(&key);
+    ASSERT_NE(item, nullptr);
+    CQorString s;
+    EXPECT_TRUE(item->get(s, nullptr));
+    EXPECT_EQ(s, L"current");
+    EXPECT_EQ(cfg_get(static_cast<const wchar_t*>(key)), item);
+    EXPECT_EQ(cfg_get(L"*HOLE*\\BT"), item);
+}
+
+TEST_F(Config, ThreeSegmentWriteIsFoundAgain) {
+    const CQorDataKey key(L"ORV_MENU\\COLOR\\PDSIZE");
+    write(key, 2.5);
+    double d = 0;
+    ASSERT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDSIZE"), nullptr);
+    EXPECT_TRUE(cfg_get(&key)->get(d, nullptr));
+    EXPECT_EQ(d, 2.5);
+    EXPECT_TRUE(cfg_get(L"ORV_MENU\\COLOR")->isDir());
+}
+
+TEST_F(Config, OneSegmentWriteMakesTheRootAValue) {
+    const CQorDataKey key(L"_APPL");
+    write(key, CQorString(L"ORV"));
+    CQorString s;
+    ASSERT_NE(cfg_get(L"_APPL"), nullptr);
+    EXPECT_TRUE(cfg_get(L"_APPL")->get(s, nullptr));
+    EXPECT_EQ(s, L"ORV");
+}
+
+TEST_F(Config, MissingEntryIsNull) {
+    EXPECT_EQ(cfg_get(L"ORV_MENU\\COLOR\\NOPE"), nullptr);
+    EXPECT_EQ(cfg_get(static_cast<const wchar_t*>(nullptr)), nullptr);
+    EXPECT_EQ(cfg_get(static_cast<const CQorDataKey*>(nullptr)), nullptr);
+    EXPECT_EQ(cfg_get(L""), nullptr);
+}
+
+TEST_F(Config, DirMakeCreatesTheRootOnceAndKeepsItsContent) {
+    EXPECT_EQ(cfg_get(L"*QOR_OUTLINE*"), nullptr);
+    CQorDataItem* root = cfg_dir_make(L"*QOR_OUTLINE*");
+    ASSERT_NE(root, nullptr);
+    EXPECT_TRUE(root->isDir());
+    const CQorDataKey k(L"FLAT");
+    dataItemSet(root, &k, 1);
+    EXPECT_EQ(cfg_dir_make(L"*QOR_OUTLINE*"), root);
+    EXPECT_NE(cfg_get(L"*QOR_OUTLINE*\\FLAT"), nullptr);
+}
+
+TEST_F(Config, GetCfgRootMakesTheRootOfThePath) {
+    EXPECT_NE(cfgMgrPtr()->getCfgRoot(L"*WALL_EDIT*\\BT"), nullptr);
+    ASSERT_NE(cfg_get(L"*WALL_EDIT*"), nullptr);
+    EXPECT_TRUE(cfg_get(L"*WALL_EDIT*")->isDir());
+    EXPECT_EQ(cfgMgrPtr()->getCfgRoot(L""), nullptr);
+    EXPECT_EQ(cfgMgrPtr()->getCfgRoot(nullptr), nullptr);
+}
+
+TEST_F(Config, LoadTextReplacesTheStoreAndAFailedLoadKeepsIt) {
+    const char good[] = "\"ORV_MENU\" {\n    \"COLOR\" {\n        \"PDMODE\" = 3\n    }\n}\n";
+    CQorString error;
+    ASSERT_TRUE(cfgMgrPtr()->loadText(good, sizeof good - 1, error)) << error.c_str();
+    unsigned long mode = 0;
+    ASSERT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE"), nullptr);
+    EXPECT_TRUE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE")->get(mode, nullptr));
+    EXPECT_EQ(mode, 3ul);
+    const char bad[] = "\"X\" = 1\n\"Y\" = (\n";
+    EXPECT_FALSE(cfgMgrPtr()->loadText(bad, sizeof bad - 1, error));
+    EXPECT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE"), nullptr);
+    EXPECT_EQ(cfg_get(L"X"), nullptr);
+}
