@@ -1,0 +1,221 @@
+#include "geom_test_util.h"
+
+#include <cmath>
+#include <random>
+
+using geomtest::expectPointNear;
+using geomtest::line;
+using geomtest::rect;
+using geomtest::totalLength;
+
+namespace {
+
+CQorArrayTempl<CQorVertexArray> squareWithHole() {
+    CQorArrayTempl<CQorVertexArray> reg;
+    reg.append(rect(0, 0, 10, 10));
+    CQorVertexArray hole = rect(4, 4, 6, 6);
+    hole.revert();
+    reg.append(hole);
+    return reg;
+}
+
+} // namespace
+
+TEST(Punch, RowThroughSquareInsideAndOutside) {
+    const CQorVertexArray sq = rect(0, 0, 2, 2);
+    const auto in = QOR::g_vl_punch(line(-1, 1, 3, 1), sq, true);
+    ASSERT_EQ(in.len(), 1);
+    ASSERT_EQ(in[0].len(), 1);
+    expectPointNear(in[0][0].m_start, CQorPoint3d(0, 1, 0));
+    expectPointNear(in[0][0].m_end, CQorPoint3d(2, 1, 0));
+    const auto out = QOR::g_vl_punch(line(-1, 1, 3, 1), sq, false);
+    ASSERT_EQ(out.len(), 2);
+    expectPointNear(out[0][0].m_end, CQorPoint3d(0, 1, 0));
+    expectPointNear(out[1][0].m_start, CQorPoint3d(2, 1, 0));
+}
+
+TEST(Punch, ArcPiecesStayArcs) {
+    // Half circle of radius 2 against the square [0, 3] x [0, 3]: the first
+    // quarter lies inside, the second outside.
+    const CQorVertexArray arc(CQorVertex(CQorPoint3d(2, 0, 0), CQorPoint3d(-2, 0, 0), 1.0));
+    const auto in = QOR::g_vl_punch(arc, rect(0, 0, 3, 3), true);
+    ASSERT_EQ(in.len(), 1);
+    ASSERT_EQ(in[0].len(), 1);
+    EXPECT_NEAR(in[0][0].m_bulge, std::tan(M_PI / 8), 1e-14);
+    expectPointNear(in[0][0].m_end, CQorPoint3d(0, 2, 0));
+    EXPECT_NEAR(in[0][0].bulgLen(), M_PI, 1e-13);
+    const auto out = QOR::g_vl_punch(arc, rect(0, 0, 3, 3), false);
+    ASSERT_EQ(out.len(), 1);
+    EXPECT_NEAR(out[0][0].m_bulge, std::tan(M_PI / 8), 1e-14);
+    expectPointNear(out[0][0].m_end, CQorPoint3d(-2, 0, 0));
+}
+
+TEST(Punch, RowAgainstCircleCutsAtExactCrossings) {
+    const auto in = QOR::g_vl_punch(line(-2, 0.6, 2, 0.6), geomtest::circle(0, 0, 1), true);
+    ASSERT_EQ(in.len(), 1);
+    expectPointNear(in[0][0].m_start, CQorPoint3d(-0.8, 0.6, 0), 1e-14);
+    expectPointNear(in[0][0].m_end, CQorPoint3d(0.8, 0.6, 0), 1e-14);
+}
+
+TEST(Punch, RowAlongAnEdgeCountsAsInside) {
+    const auto in = QOR::g_vl_punch(line(-1, 0, 3, 0), rect(0, 0, 2, 2), true);
+    ASSERT_EQ(in.len(), 1);
+    expectPointNear(in[0][0].m_start, CQorPoint3d(0, 0, 0));
+    expectPointNear(in[0][0].m_end, CQorPoint3d(2, 0, 0));
+}
+
+TEST(Punch, ContourTouchingRowAtVertexKeepsNothingInside) {
+    CQorPoint3dArray d;
+    d.append(CQorPoint3d(0, -1, 0))
+        .append(CQorPoint3d(1, 0, 0))
+        .append(CQorPoint3d(0, 1, 0))
+        .append(CQorPoint3d(-1, 0, 0));
+    CQorVertexArray diamond;
+    diamond.fromPoints(d, true);
+    EXPECT_EQ(QOR::g_vl_punch(line(-2, 1, 2, 1), diamond, true).len(), 0);
+    const auto out = QOR::g_vl_punch(line(-2, 1, 2, 1), diamond, false);
+    EXPECT_NEAR(totalLength(out), 4.0, 1e-12);
+}
+
+TEST(Punch, DegenerateInputGivesDefinedResults) {
+    const CQorVertexArray sq = rect(0, 0, 2, 2);
+    EXPECT_EQ(QOR::g_vl_punch(CQorVertexArray(), sq, true).len(), 0);
+    EXPECT_EQ(QOR::g_vl_punch(line(0, 1, 1, 1), CQorVertexArray(), true).len(), 0);
+    EXPECT_EQ(QOR::g_vl_punch(line(0, 1, 1, 1), CQorVertexArray(), false).len(), 1);
+    // A point-sized vertex (a dot of a dash pattern) is kept where it lies.
+    const CQorVertexArray dot(CQorVertex(CQorPoint3d(1, 1, 0), CQorPoint3d(1, 1, 0)));
+    EXPECT_EQ(QOR::g_vl_punch(dot, sq, true).len(), 1);
+    EXPECT_EQ(QOR::g_vl_punch(dot, sq, false).len(), 0);
+    // Coincident points in the contour do no harm.
+    CQorVertexArray twice = sq;
+    twice.insertAt(1, CQorVertex(CQorPoint3d(2, 0, 0), CQorPoint3d(2, 0, 0)));
+    EXPECT_NEAR(totalLength(QOR::g_vl_punch(line(-1, 1, 3, 1), twice, true)), 2.0, 1e-12);
+}
+
+TEST(Punch, InsideAndOutsideTogetherCoverTheInputProperty) {
+    std::mt19937 rng(1618u);
+    std::uniform_real_distribution<double> u(-10.0, 10.0);
+    std::uniform_real_distribution<double> bu(-1.5, 1.5);
+    std::uniform_real_distribution<double> ang(0.0, 2 * M_PI);
+    for (int n = 0; n < 200; ++n) {
+        // A star-shaped contour around the origin with some arcs.
+        CQorPoint3dArray pts;
+        const int k = 3 + n % 12;
+        for (int i = 0; i < k; ++i) {
+            const double a = 2 * M_PI * i / k, r = 2.0 + std::fabs(u(rng)) * 0.5;
+            pts.append(CQorPoint3d(r * std::cos(a), r * std::sin(a), 0));
+        }
+        CQorVertexArray contour;
+        contour.fromPoints(pts, true);
+        for (int i = 0; i < contour.len(); i += 2)
+            contour[i].m_bulge = 0.3 * bu(rng);
+        // A polyline with straight and arc pieces.
+        CQorVertexArray vl;
+        CQorPoint3d at(u(rng), u(rng), 0);
+        for (int i = 0; i < 1 + n % 5; ++i) {
+            const CQorPoint3d next(u(rng), u(rng), 0);
+            vl.append(CQorVertex(at, next, i % 2 ? bu(rng) : 0.0));
+            at = next;
+        }
+        double whole = 0.0;
+        for (const CQorVertex& v : vl)
+            whole += v.bulgLen();
+        const auto in = QOR::g_vl_punch(vl, contour, true);
+        const auto out = QOR::g_vl_punch(vl, contour, false);
+        EXPECT_NEAR(totalLength(in) + totalLength(out), whole, 1e-9 * whole) << "case " << n;
+        for (const CQorVertexArray& piece : in)
+            for (const CQorVertex& v : piece) {
+                CQorArrayTempl<CQorVertexArray> reg;
+                reg.append(contour);
+                EXPECT_GE(QOR::g_vll_pt_inside(reg, v.mid()), 0) << "case " << n;
+            }
+    }
+}
+
+TEST(PunchReg, HoleIsKeptClear) {
+    const auto in = QOR::g_vl_punch_reg(line(-1, 5, 11, 5), squareWithHole(), true);
+    ASSERT_EQ(in.len(), 2);
+    expectPointNear(in[0][0].m_start, CQorPoint3d(0, 5, 0));
+    expectPointNear(in[0][0].m_end, CQorPoint3d(4, 5, 0));
+    expectPointNear(in[1][0].m_start, CQorPoint3d(6, 5, 0));
+    expectPointNear(in[1][0].m_end, CQorPoint3d(10, 5, 0));
+    const auto out = QOR::g_vl_punch_reg(line(-1, 5, 11, 5), squareWithHole(), false);
+    EXPECT_EQ(out.len(), 3);
+    EXPECT_NEAR(totalLength(out), 4.0, 1e-12);
+}
+
+TEST(PunchReg, RowAlongHoleEdgeStaysInside) {
+    const auto in = QOR::g_vl_punch_reg(line(-1, 4, 11, 4), squareWithHole(), true);
+    ASSERT_EQ(in.len(), 1);
+    EXPECT_EQ(in[0].len(), 3);
+    EXPECT_NEAR(totalLength(in), 10.0, 1e-12);
+    EXPECT_TRUE(in[0].isContinuous());
+}
+
+TEST(PunchReg, EmptyRegionListHasNoInside) {
+    EXPECT_EQ(QOR::g_vl_punch_reg(line(0, 0, 1, 0), CQorArrayTempl<CQorVertexArray>(), true).len(),
+              0);
+}
+
+TEST(PtInside, RegionWithHole) {
+    const auto reg = squareWithHole();
+    EXPECT_GT(QOR::g_vll_pt_inside(reg, CQorPoint3d(1, 1, 0)), 0);
+    EXPECT_LE(QOR::g_vll_pt_inside(reg, CQorPoint3d(5, 5, 0)), 0);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(5, 5, 0)), -1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(4, 5, 0)), 0);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(0, 3, 0)), 0);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(20, 0, 0)), -1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(CQorArrayTempl<CQorVertexArray>(), CQorPoint3d()), -1);
+}
+
+TEST(PtInside, ArcsBoundTheRegionExactly) {
+    CQorArrayTempl<CQorVertexArray> reg;
+    reg.append(geomtest::circle(0, 0, 1));
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(0, 0.99, 0)), 1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(0.71, 0.71, 0)), -1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(0.7, 0.7, 0)), 1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(reg, CQorPoint3d(std::sqrt(0.5), std::sqrt(0.5), 0)), 0);
+    // A contour with an arc bulging inward.
+    CQorVertexArray bite = rect(0, 0, 4, 4);
+    bite[1].m_bulge = -1.0; // right edge, from (4, 0) to (4, 4), bends to x = 2
+    CQorArrayTempl<CQorVertexArray> r2;
+    r2.append(bite);
+    EXPECT_EQ(QOR::g_vll_pt_inside(r2, CQorPoint3d(3, 2, 0)), -1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(r2, CQorPoint3d(1.5, 2, 0)), 1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(r2, CQorPoint3d(3.9, 0.1, 0)), -1);
+    EXPECT_EQ(QOR::g_vll_pt_inside(r2, CQorPoint3d(3.0, 0.05, 0)), 1);
+}
+
+TEST(Cut, PartBetweenTwoPointsInArrayDirection) {
+    CQorVertexArray r =
+        QOR::g_vl_cut(line(0, 0, 10, 0), CQorPoint3d(7, 0, 0), CQorPoint3d(2, 0, 0));
+    ASSERT_EQ(r.len(), 1);
+    expectPointNear(r[0].m_start, CQorPoint3d(2, 0, 0));
+    expectPointNear(r[0].m_end, CQorPoint3d(7, 0, 0));
+    CQorVertexArray l;
+    l.append(CQorVertex(CQorPoint3d(0, 0, 0), CQorPoint3d(2, 0, 0)));
+    l.append(CQorVertex(CQorPoint3d(2, 0, 0), CQorPoint3d(2, 2, 0)));
+    r = QOR::g_vl_cut(l, CQorPoint3d(1, 0, 0), CQorPoint3d(2, 1, 0));
+    ASSERT_EQ(r.len(), 2);
+    expectPointNear(r[0].m_start, CQorPoint3d(1, 0, 0));
+    expectPointNear(r[1].m_end, CQorPoint3d(2, 1, 0));
+}
+
+TEST(Cut, ArcPartIsArc) {
+    const CQorVertexArray half(CQorVertex(CQorPoint3d(1, 0, 0), CQorPoint3d(-1, 0, 0), 1.0));
+    const double h = std::sqrt(0.5);
+    const CQorVertexArray r = QOR::g_vl_cut(half, CQorPoint3d(h, h, 0), CQorPoint3d(-h, h, 0));
+    ASSERT_EQ(r.len(), 1);
+    EXPECT_NEAR(r[0].m_bulge, std::tan(M_PI / 8), 1e-14);
+    EXPECT_NEAR(r[0].bulgLen(), M_PI / 2, 1e-14);
+}
+
+TEST(Cut, PointOffArrayGivesEmptyEqualPointsGiveAPoint) {
+    EXPECT_EQ(QOR::g_vl_cut(line(0, 0, 10, 0), CQorPoint3d(1, 1, 0), CQorPoint3d(2, 0, 0)).len(),
+              0);
+    const CQorVertexArray p =
+        QOR::g_vl_cut(line(0, 0, 10, 0), CQorPoint3d(3, 0, 0), CQorPoint3d(3, 0, 0));
+    ASSERT_EQ(p.len(), 1);
+    EXPECT_TRUE(p[0].m_start == p[0].m_end);
+    EXPECT_EQ(QOR::g_vl_cut(CQorVertexArray(), CQorPoint3d(), CQorPoint3d()).len(), 0);
+}
