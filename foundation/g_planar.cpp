@@ -344,15 +344,36 @@ std::vector<Piece2> makePieces(const std::vector<CQorVertex>& vertices) {
     return r;
 }
 
-Contour2 makeContour(const std::vector<CQorVertex>& vertices) {
+std::vector<Piece2> makePieces(const PlaneFrame& frame, const CQorVertexArray& vl) {
+    if (!frame.identity)
+        return makePieces(frame.bring(vl));
+    std::vector<Piece2> r;
+    r.reserve(size_t(vl.len()));
+    const bool flip = vl.normal().z < 0.0;
+    for (const CQorVertex& v : vl) {
+        if (flip) {
+            CQorVertex w(v);
+            w.m_bulge = -w.m_bulge;
+            r.push_back(makePiece(w));
+        } else {
+            r.push_back(makePiece(v));
+        }
+    }
+    return r;
+}
+
+namespace {
+
+Contour2 closeContour(std::vector<Piece2> pieces) {
     Contour2 c;
-    c.pieces = makePieces(vertices);
+    c.pieces = std::move(pieces);
     if (c.pieces.empty())
         return c;
     const Piece2& first = c.pieces.front();
     const Piece2 last = c.pieces.back();
     if (std::hypot(last.x1 - first.x0, last.y1 - first.y0) > kPointTol) {
-        CQorVertex closing(vertices.back().m_end, vertices.front().m_start, 0.0);
+        CQorVertex closing(CQorPoint3d(last.x1, last.y1, last.z1),
+                           CQorPoint3d(first.x0, first.y0, first.z0), 0.0);
         c.pieces.push_back(makePiece(closing));
     }
     c.minx = c.maxx = c.pieces.front().x0;
@@ -364,6 +385,16 @@ Contour2 makeContour(const std::vector<CQorVertex>& vertices) {
         c.maxy = std::max(c.maxy, p.maxy);
     }
     return c;
+}
+
+} // namespace
+
+Contour2 makeContour(const std::vector<CQorVertex>& vertices) {
+    return closeContour(makePieces(vertices));
+}
+
+Contour2 makeContour(const PlaneFrame& frame, const CQorVertexArray& vl) {
+    return closeContour(makePieces(frame, vl));
 }
 
 } // namespace detail

@@ -65,6 +65,10 @@ struct PlaneFrame {
 };
 
 Contour2 makeContour(const std::vector<CQorVertex>& vertices);
+// The pieces of vl in the plane of the frame, without copying the vertices when
+// the frame is the identity.
+std::vector<Piece2> makePieces(const PlaneFrame& frame, const CQorVertexArray& vl);
+Contour2 makeContour(const PlaneFrame& frame, const CQorVertexArray& vl);
 std::vector<Piece2> makePieces(const std::vector<CQorVertex>& vertices);
 
 } // namespace detail

@@ -20,7 +20,7 @@ std::vector<Contour2> regionIn(const PlaneFrame& frame,
                                const CQorArrayTempl<CQorVertexArray>& regions) {
     std::vector<Contour2> r;
     for (const CQorVertexArray& c : regions)
-        r.push_back(detail::makeContour(frame.bring(c)));
+        r.push_back(detail::makeContour(frame, c));
     return r;
 }
 
@@ -54,12 +54,12 @@ CQorArrayTempl<CQorVertexArray> punch(const CQorVertexArray& vl,
             runs.append(cur);
         cur.setLogicalLength(0);
     };
-    const std::vector<CQorVertex> flat = frame.bring(vl);
+    const std::vector<Piece2> flat = detail::makePieces(frame, vl);
     std::vector<Hit> hits;
     std::vector<double> cuts;
     for (int i = 0; i < vl.len(); ++i) {
         const CQorVertex& v = vl[i];
-        const Piece2 a = detail::makePiece(flat[size_t(i)]);
+        const Piece2& a = flat[size_t(i)];
         if (i > 0 && v.m_start != vl[i - 1].m_end)
             flush();
         cuts.assign({0.0, 1.0});
@@ -105,7 +105,7 @@ CQorArrayTempl<CQorVertexArray> g_vl_punch(CQorVertexArray vl, const CQorVertexA
                                            bool inside) {
     const PlaneFrame frame(vl.normal());
     std::vector<Contour2> region;
-    region.push_back(detail::makeContour(frame.bring(contour)));
+    region.push_back(detail::makeContour(frame, contour));
     return punch(vl, region, frame, inside);
 }
 

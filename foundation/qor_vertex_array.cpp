@@ -172,8 +172,8 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
     if (len() == 0 || other.len() == 0)
         return false;
     const PlaneFrame frame(m_normal);
-    const std::vector<Piece2> mine = makePieces(frame.bring(*this));
-    const std::vector<Piece2> theirs = makePieces(frame.bring(other));
+    const std::vector<Piece2> mine = makePieces(frame, *this);
+    const std::vector<Piece2> theirs = makePieces(frame, other);
     struct Found {
         int i;
         double t;
