@@ -77,14 +77,18 @@ CQorArrayTempl<CQorVertexArray> punch(const CQorVertexArray& vl,
             }
         }
         std::sort(cuts.begin(), cuts.end());
+        // Cuts closer than the tolerance to the one before or to the end are
+        // dropped, so that no part is shorter than the tolerance.
         const double len = v.bulgLen();
+        size_t kept = 1;
+        for (size_t k = 1; k + 1 < cuts.size(); ++k)
+            if ((cuts[k] - cuts[kept - 1]) * len > kPointTol && (1.0 - cuts[k]) * len > kPointTol)
+                cuts[kept++] = cuts[k];
+        cuts[kept++] = 1.0;
+        cuts.resize(kept);
         double from = 0.0;
         for (size_t k = 1; k < cuts.size(); ++k) {
             const double to = cuts[k];
-            const bool last = k + 1 == cuts.size();
-            // Parts shorter than the tolerance are merged into the next one.
-            if (!last && (to - from) * len <= kPointTol)
-                continue;
             double x, y;
             a.at(0.5 * (from + to), x, y);
             const bool in = classifyRegion(region, x, y) >= 0;

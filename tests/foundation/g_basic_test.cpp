@@ -11,22 +11,22 @@ TEST(GeomBasic, PMinPMaxAreComponentwise) {
 }
 
 TEST(GeomBasic, PolarPointAndVector) {
-    expectPointNear(QOR::polar(CQorPoint3d(1, 1, 5), M_PI / 2, 2.0), CQorPoint3d(1, 3, 5));
+    expectPointNear(QOR::polar(CQorPoint3d(1, 1, 5), kPi / 2, 2.0), CQorPoint3d(1, 3, 5));
     expectPointNear(QOR::polar(CQorPoint3d(0, 0, 0), 0.0, -3.0), CQorPoint3d(-3, 0, 0));
-    const CQorVector3d v = QOR::polar(M_PI, -2.0);
+    const CQorVector3d v = QOR::polar(kPi, -2.0);
     EXPECT_NEAR(v.x, 2.0, 1e-15);
     EXPECT_NEAR(v.y, 0.0, 1e-15);
     EXPECT_EQ(v.z, 0.0);
-    EXPECT_NEAR(QOR::polar(M_PI / 6, 2.0).y, 1.0, 1e-15);
+    EXPECT_NEAR(QOR::polar(kPi / 6, 2.0).y, 1.0, 1e-15);
 }
 
 TEST(GeomBasic, GAngNormalisesIntoOneTurn) {
-    EXPECT_NEAR(QOR::g_ang(-M_PI / 2), 1.5 * M_PI, 1e-15);
-    EXPECT_NEAR(QOR::g_ang(5.0 * M_PI), M_PI, 1e-14);
-    EXPECT_EQ(QOR::g_ang(2.0 * M_PI), 0.0);
+    EXPECT_NEAR(QOR::g_ang(-kPi / 2), 1.5 * kPi, 1e-15);
+    EXPECT_NEAR(QOR::g_ang(5.0 * kPi), kPi, 1e-14);
+    EXPECT_EQ(QOR::g_ang(2.0 * kPi), 0.0);
     EXPECT_EQ(QOR::g_ang(0.0), 0.0);
     EXPECT_NEAR(QOR::g_ang(1.0), 1.0, 0.0);
-    EXPECT_LT(QOR::g_ang(-1e-300), 2.0 * M_PI);
+    EXPECT_LT(QOR::g_ang(-1e-300), 2.0 * kPi);
     EXPECT_TRUE(std::isnan(QOR::g_ang(QOR::nan())));
 }
 

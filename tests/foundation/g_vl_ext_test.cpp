@@ -14,10 +14,10 @@ TEST(ExtMax, AngleZeroIsTheExtents) {
 TEST(ExtMax, TurnedFrameCornersAreWorldPoints) {
     // In the frame turned by 90 degrees the rectangle spans x' in [0, 1] and
     // y' in [-2, 0]; its low corner (0, -2) is the world point (2, 0).
-    const CQorPoint3dArray e = QOR::g_vl_extmax(geomtest::rect(0, 0, 2, 1), M_PI / 2);
+    const CQorPoint3dArray e = QOR::g_vl_extmax(geomtest::rect(0, 0, 2, 1), kPi / 2);
     expectPointNear(e[0], CQorPoint3d(2, 0, 0));
     expectPointNear(e[1], CQorPoint3d(0, 1, 0));
-    const CQorPoint3dArray c = QOR::g_vl_extmax(geomtest::circle(0, 0, 1), M_PI / 4);
+    const CQorPoint3dArray c = QOR::g_vl_extmax(geomtest::circle(0, 0, 1), kPi / 4);
     EXPECT_NEAR(c[0].distanceTo(c[1]), 2.0 * std::sqrt(2.0), 1e-12);
 }
 

@@ -46,14 +46,13 @@ TEST(Measure, DashRunsAcrossACornerAsOneArray) {
 
 TEST(Measure, ArcDashesStayArcsWithExactLength) {
     const CQorVertexArray half(CQorVertex(CQorPoint3d(1, 0, 0), CQorPoint3d(-1, 0, 0), 1.0));
-    const auto runs = QOR::g_vl_measure(half, 1.0, CQorLineParm(M_PI / 2, -M_PI / 4));
+    const auto runs = QOR::g_vl_measure(half, 1.0, CQorLineParm(kPi / 2, -kPi / 4));
     // Dashes over [0, pi/2] and [3 pi/4, pi].
     ASSERT_EQ(runs.len(), 2);
-    EXPECT_NEAR(runs[0][0].m_bulge, std::tan(M_PI / 8), 1e-15);
+    EXPECT_NEAR(runs[0][0].m_bulge, std::tan(kPi / 8), 1e-15);
     expectPointNear(runs[0][0].m_end, CQorPoint3d(0, 1, 0));
-    EXPECT_NEAR(runs[1][0].bulgLen(), M_PI / 4, 1e-14);
-    expectPointNear(runs[1][0].m_start,
-                    CQorPoint3d(std::cos(0.75 * M_PI), std::sin(0.75 * M_PI), 0));
+    EXPECT_NEAR(runs[1][0].bulgLen(), kPi / 4, 1e-14);
+    expectPointNear(runs[1][0].m_start, CQorPoint3d(std::cos(0.75 * kPi), std::sin(0.75 * kPi), 0));
     expectPointNear(runs[1][0].m_end, CQorPoint3d(-1, 0, 0));
 }
 

@@ -41,12 +41,12 @@ TEST(Punch, ArcPiecesStayArcs) {
     const auto in = QOR::g_vl_punch(arc, rect(0, 0, 3, 3), true);
     ASSERT_EQ(in.len(), 1);
     ASSERT_EQ(in[0].len(), 1);
-    EXPECT_NEAR(in[0][0].m_bulge, std::tan(M_PI / 8), 1e-14);
+    EXPECT_NEAR(in[0][0].m_bulge, std::tan(kPi / 8), 1e-14);
     expectPointNear(in[0][0].m_end, CQorPoint3d(0, 2, 0));
-    EXPECT_NEAR(in[0][0].bulgLen(), M_PI, 1e-13);
+    EXPECT_NEAR(in[0][0].bulgLen(), kPi, 1e-13);
     const auto out = QOR::g_vl_punch(arc, rect(0, 0, 3, 3), false);
     ASSERT_EQ(out.len(), 1);
-    EXPECT_NEAR(out[0][0].m_bulge, std::tan(M_PI / 8), 1e-14);
+    EXPECT_NEAR(out[0][0].m_bulge, std::tan(kPi / 8), 1e-14);
     expectPointNear(out[0][0].m_end, CQorPoint3d(-2, 0, 0));
 }
 
@@ -96,13 +96,13 @@ TEST(Punch, InsideAndOutsideTogetherCoverTheInputProperty) {
     std::mt19937 rng(1618u);
     std::uniform_real_distribution<double> u(-10.0, 10.0);
     std::uniform_real_distribution<double> bu(-1.5, 1.5);
-    std::uniform_real_distribution<double> ang(0.0, 2 * M_PI);
+    std::uniform_real_distribution<double> ang(0.0, 2 * kPi);
     for (int n = 0; n < 200; ++n) {
         // A star-shaped contour around the origin with some arcs.
         CQorPoint3dArray pts;
         const int k = 3 + n % 12;
         for (int i = 0; i < k; ++i) {
-            const double a = 2 * M_PI * i / k, r = 2.0 + std::fabs(u(rng)) * 0.5;
+            const double a = 2 * kPi * i / k, r = 2.0 + std::fabs(u(rng)) * 0.5;
             pts.append(CQorPoint3d(r * std::cos(a), r * std::sin(a), 0));
         }
         CQorVertexArray contour;
@@ -206,8 +206,8 @@ TEST(Cut, ArcPartIsArc) {
     const double h = std::sqrt(0.5);
     const CQorVertexArray r = QOR::g_vl_cut(half, CQorPoint3d(h, h, 0), CQorPoint3d(-h, h, 0));
     ASSERT_EQ(r.len(), 1);
-    EXPECT_NEAR(r[0].m_bulge, std::tan(M_PI / 8), 1e-14);
-    EXPECT_NEAR(r[0].bulgLen(), M_PI / 2, 1e-14);
+    EXPECT_NEAR(r[0].m_bulge, std::tan(kPi / 8), 1e-14);
+    EXPECT_NEAR(r[0].bulgLen(), kPi / 2, 1e-14);
 }
 
 TEST(Cut, PointOffArrayGivesEmptyEqualPointsGiveAPoint) {
@@ -218,4 +218,15 @@ TEST(Cut, PointOffArrayGivesEmptyEqualPointsGiveAPoint) {
     ASSERT_EQ(p.len(), 1);
     EXPECT_TRUE(p[0].m_start == p[0].m_end);
     EXPECT_EQ(QOR::g_vl_cut(CQorVertexArray(), CQorPoint3d(), CQorPoint3d()).len(), 0);
+}
+
+TEST(Punch, CrossingWithinToleranceOfAnEndMakesNoSliver) {
+    const CQorVertexArray sq = rect(0, 0, 2, 2);
+    const auto in = QOR::g_vl_punch(line(-1, 1, 2 + 1e-12, 1), sq, true);
+    ASSERT_EQ(in.len(), 1);
+    ASSERT_EQ(in[0].len(), 1);
+    EXPECT_NEAR(in[0][0].m_end.x, 2.0, 1e-11);
+    const auto out = QOR::g_vl_punch(line(-1, 1, 2 + 1e-12, 1), sq, false);
+    ASSERT_EQ(out.len(), 1);
+    EXPECT_NEAR(out[0][0].m_end.x, 0.0, 0.0);
 }

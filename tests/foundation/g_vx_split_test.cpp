@@ -6,12 +6,12 @@
 using geomtest::expectPointNear;
 
 TEST(SplitDif, QuarterArcOfRadiusOneAtOneHundredth) {
-    const CQorVertex q(CQorPoint3d(1, 0, 0), CQorPoint3d(0, 1, 0), std::tan(M_PI / 8));
+    const CQorVertex q(CQorPoint3d(1, 0, 0), CQorPoint3d(0, 1, 0), std::tan(kPi / 8));
     // 2 acos(0.99) = 0.28308 rad per chord; 1.5708 / 0.28308 = 5.55, so 6 chords.
     EXPECT_EQ(QOR::g_vx_split_dif(q, 0.01), 6);
     // Each of the 6 chords keeps the error: r (1 - cos(pi / 24)) = 0.00856.
-    EXPECT_LT(1.0 - std::cos(M_PI / 24), 0.01);
-    EXPECT_GT(1.0 - std::cos(M_PI / 20), 0.01);
+    EXPECT_LT(1.0 - std::cos(kPi / 24), 0.01);
+    EXPECT_GT(1.0 - std::cos(kPi / 20), 0.01);
 }
 
 TEST(SplitDif, StraightAndDegenerateInput) {
@@ -53,7 +53,7 @@ TEST(Expl, ArcBecomesEqualAngleChordsInOrder) {
     for (int k = 0; k < 4; ++k) {
         EXPECT_EQ(e[k + 1].m_bulge, 0.0);
         expectPointNear(e[k + 1].m_start,
-                        CQorPoint3d(std::cos(k * M_PI / 4), std::sin(k * M_PI / 4), 0));
+                        CQorPoint3d(std::cos(k * kPi / 4), std::sin(k * kPi / 4), 0));
     }
     EXPECT_TRUE(e[4].m_end == CQorPoint3d(-1, 0, 0));
     EXPECT_TRUE(e.isContinuous());

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+// Pi, spelled out: M_PI is not standard C++ and MinGW hides it.
+constexpr double kPi = 3.14159265358979323846;
+
 namespace geomtest {
 
 inline void expectPointNear(const CQorPoint3d& a, const CQorPoint3d& b, double tol = 1e-12) {
