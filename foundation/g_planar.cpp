@@ -326,8 +326,9 @@ std::vector<CQorVertex> PlaneFrame::bring(const CQorVertexArray& vl) const {
                 v.m_bulge = -v.m_bulge;
         return r;
     }
+    // toPlane is a rotation taking the normal to +z: the bulges stay.
     for (CQorVertex& v : r)
-        v.transformBy(toPlane.m, vl.normal(), CQorVector3d::kZAxis);
+        v.transformBy(toPlane.m);
     return r;
 }
 

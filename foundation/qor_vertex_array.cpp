@@ -86,7 +86,7 @@ CQorVertexArray& CQorVertexArray::transformBy(const double (*m)[4]) {
         n = CQorVector3d::kZAxis;
     n.normalize();
     for (CQorVertex& v : *this)
-        v.transformBy(m, m_normal, n);
+        v.transformBy(m);
     m_normal = n;
     return *this;
 }

@@ -76,3 +76,28 @@ TEST(VlToVll, SplitsAtGapsInOrder) {
     EXPECT_EQ(QOR::g_vl_to_vll(CQorVertexArray()).len(), 0);
     EXPECT_EQ(QOR::g_vl_to_vll(geomtest::rect(0, 0, 1, 1)).len(), 1);
 }
+
+TEST(Expl, TiltedArcExplodedInItsPlaneComesBackInThatPlane) {
+    const CQorVector3d n(0.0, -1.0, 2.0);
+    CQorMatrix3d planeToWorld;
+    planeToWorld.setToPlaneToWorld(n);
+    const CQorMatrix3d worldToPlane = planeToWorld.inverse();
+    CQorVertex arc(CQorPoint3d(3, 0, 0), CQorPoint3d(-3, 0, 0), 0.7);
+    arc.transformBy(planeToWorld.m);
+    arc.m_attr = 9;
+    CQorVertex copy = arc;
+    copy.transformBy(worldToPlane.m);
+    const CQorVertexArray one(copy);
+    CQorVertexArray chords = QOR::g_vl_expl(one, QOR::g_vx_split_dif(copy, 0.01));
+    chords.transformBy(planeToWorld.m);
+    ASSERT_GT(chords.len(), 4);
+    expectPointNear(chords[0].m_start, arc.m_start, 1e-12);
+    expectPointNear(chords[-1].m_end, arc.m_end, 1e-12);
+    CQorVector3d unit = n;
+    unit.normalize();
+    for (const CQorVertex& c : chords) {
+        EXPECT_NEAR((c.m_end - arc.m_start).dot(unit), 0.0, 1e-12);
+        EXPECT_TRUE(arc.isPoint(c.m_end, unit));
+        EXPECT_EQ(c.m_attr, 9u);
+    }
+}
