@@ -228,12 +228,13 @@ Piece2 makePiece(const CQorVertex& v) {
     p.y1 = v.m_end.y;
     p.z1 = v.m_end.z;
     p.len = std::hypot(p.x1 - p.x0, p.y1 - p.y0);
+    p.bad = !std::isfinite(p.len);
     p.minx = std::min(p.x0, p.x1);
     p.maxx = std::max(p.x0, p.x1);
     p.miny = std::min(p.y0, p.y1);
     p.maxy = std::max(p.y0, p.y1);
     const double b = v.m_bulge;
-    if (b == 0.0 || !std::isfinite(b) || p.len <= kPointTol)
+    if (b == 0.0 || !std::isfinite(b) || p.len <= kPointTol || p.bad)
         return p;
     p.arc = true;
     // Centre to the left of the chord for a positive bulge below 1 (see CQorVertex).
@@ -244,6 +245,10 @@ Piece2 makePiece(const CQorVertex& v) {
     p.r = p.len * (1.0 + b * b) / (4.0 * std::fabs(b));
     p.a0 = std::atan2(p.y0 - p.cy, p.x0 - p.cx);
     p.sw = 4.0 * std::atan(b);
+    if (!std::isfinite(p.cx) || !std::isfinite(p.cy) || !std::isfinite(p.r)) {
+        p.bad = true;
+        return p;
+    }
     // The box takes the quadrant points that lie on the arc.
     for (int q = 0; q < 4; ++q) {
         double t;
@@ -260,6 +265,8 @@ Piece2 makePiece(const CQorVertex& v) {
 }
 
 void intersect(const Piece2& a, const Piece2& b, std::vector<Hit>& out) {
+    if (a.bad || b.bad)
+        return;
     if (a.minx > b.maxx + kPointTol || b.minx > a.maxx + kPointTol || a.miny > b.maxy + kPointTol ||
         b.miny > a.maxy + kPointTol)
         return;
@@ -282,6 +289,8 @@ int classify(const Contour2& c, double x, double y) {
         return -1;
     bool inside = false;
     for (const Piece2& p : c.pieces) {
+        if (p.bad)
+            continue;
         double t;
         if (x >= p.minx - kPointTol && x <= p.maxx + kPointTol && y >= p.miny - kPointTol &&
             y <= p.maxy + kPointTol && onPiece(p, x, y, t))

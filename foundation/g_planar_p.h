@@ -18,6 +18,7 @@ struct Piece2 {
     double x0 = 0.0, y0 = 0.0, z0 = 0.0;
     double x1 = 0.0, y1 = 0.0, z1 = 0.0;
     bool arc = false;
+    bool bad = false;                   // a coordinate is not finite: the piece meets nothing
     double cx = 0.0, cy = 0.0, r = 0.0; // circle of an arc
     double a0 = 0.0, sw = 0.0;          // start angle and signed sweep of an arc
     double len = 0.0;                   // chord length

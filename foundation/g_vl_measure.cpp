@@ -39,6 +39,8 @@ CQorArrayTempl<CQorVertexArray> g_vl_measure(CQorVertexArray vl, double factor, 
         if (i > 0 && v.m_start != vl[i - 1].m_end)
             flush();
         const double len = v.bulgLen();
+        if (!std::isfinite(len))
+            continue;
         double pos = 0.0;
         while (steps < kMaxSteps) {
             const double e = list[k] * factor;

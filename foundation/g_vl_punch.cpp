@@ -72,7 +72,8 @@ CQorArrayTempl<CQorVertexArray> punch(const CQorVertexArray& vl,
                     hits.clear();
                     detail::intersect(a, b, hits);
                     for (const Hit& h : hits)
-                        cuts.push_back(h.ta);
+                        if (h.ta > 0.0 && h.ta < 1.0)
+                            cuts.push_back(h.ta);
                 }
             }
         }

@@ -187,6 +187,8 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
             hits.clear();
             intersect(a, b, hits);
             for (const Hit& h : hits) {
+                if (!std::isfinite(h.x) || !std::isfinite(h.y))
+                    continue;
                 const double z = a.z0 + (a.z1 - a.z0) * h.ta;
                 found.push_back({i, h.ta, frame.back(h.x, h.y, z)});
                 if (mode == 0) {

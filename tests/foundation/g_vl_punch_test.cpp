@@ -230,3 +230,59 @@ TEST(Punch, CrossingWithinToleranceOfAnEndMakesNoSliver) {
     ASSERT_EQ(out.len(), 1);
     EXPECT_NEAR(out[0][0].m_end.x, 0.0, 0.0);
 }
+
+TEST(Punch, NotFiniteCoordinatesEndWithoutCrash) {
+    const double n = QOR::nan();
+    const CQorVertexArray bad(CQorVertex(CQorPoint3d(n, 1, 0), CQorPoint3d(3, n, 0), 0.5));
+    const CQorVertexArray sq = rect(0, 0, 2, 2);
+    const auto in = QOR::g_vl_punch(bad, sq, true);
+    const auto out = QOR::g_vl_punch(bad, sq, false);
+    EXPECT_LE(in.len() + out.len(), 1);
+    EXPECT_EQ(bad.intersectWith(sq, 3).len(), 0);
+    EXPECT_EQ(sq.intersectWith(bad, 3).len(), 0);
+    const auto dashes = QOR::g_vl_measure(bad, 1.0, CQorLineParm(1.0, -1.0));
+    EXPECT_EQ(dashes.len(), 0);
+    CQorArrayTempl<CQorVertexArray> reg;
+    reg.append(bad);
+    EXPECT_LE(QOR::g_vll_pt_inside(reg, CQorPoint3d(1, 1, 0)), 0);
+}
+
+TEST(Intersect, CrossingsLieOnBothAndModesAgreeProperty) {
+    std::mt19937 rng(99991u);
+    std::uniform_real_distribution<double> u(-5.0, 5.0);
+    std::uniform_real_distribution<double> bu(-2.0, 2.0);
+    for (int n = 0; n < 300; ++n) {
+        CQorPoint3dArray pts;
+        for (int i = 0; i < 3 + n % 7; ++i)
+            pts.append(CQorPoint3d(u(rng), u(rng), 0));
+        CQorVertexArray contour;
+        contour.fromPoints(pts, true);
+        for (int i = 0; i < contour.len(); ++i)
+            if (i % 3 == 1)
+                contour[i].m_bulge = bu(rng);
+        CQorVertexArray vl(CQorVertex(CQorPoint3d(u(rng), u(rng), 0),
+                                      CQorPoint3d(u(rng), u(rng), 0), n % 2 ? bu(rng) : 0.0));
+        const CQorPoint3dArray all = vl.intersectWith(contour, 3);
+        const CQorPoint3dArray first = vl.intersectWith(contour, 0);
+        EXPECT_EQ(all.len() > 0, first.len() > 0) << "case " << n;
+        EXPECT_LE(first.len(), 1);
+        for (const CQorPoint3d& p : all) {
+            EXPECT_TRUE(vl[0].isPoint(p)) << "case " << n;
+            bool onContour = false;
+            for (const CQorVertex& v : contour)
+                onContour = onContour || v.isPoint(p);
+            EXPECT_TRUE(onContour) << "case " << n;
+        }
+        // Ordered along the piece.
+        for (int i = 1; i < all.len(); ++i)
+            EXPECT_LE(vl[0].paramOf(all[i - 1]), vl[0].paramOf(all[i]) + 1e-12) << "case " << n;
+    }
+}
+
+TEST(Punch, HugeBulgeIsDefined) {
+    const CQorVertexArray huge(CQorVertex(CQorPoint3d(0, 1, 0), CQorPoint3d(1, 1, 0), 1e300));
+    const auto in = QOR::g_vl_punch(huge, rect(0, 0, 2, 2), true);
+    const auto out = QOR::g_vl_punch(huge, rect(0, 0, 2, 2), false);
+    EXPECT_LE(in.len() + out.len(), 2);
+    EXPECT_GE(QOR::g_vx_split_dif(huge[0], 0.1), 1);
+}
