@@ -184,6 +184,52 @@ void arcArc(const Piece2& a, const Piece2& b, std::vector<Hit>& out) {
     }
 }
 
+// Parity of the crossings of the ray from (x, y) to +x with an arc. The arc is
+// cut at the top and bottom of its circle into pieces that are monotone in y and
+// lie in one half (left or right of the centre) each; every piece is tested as a
+// straight one would be, half-open in y, with the crossing x taken on the circle.
+// The ends of the whole arc are its exact vertex points, so the rule agrees with
+// the neighbouring pieces at the joints.
+bool rayCrossesArc(const Piece2& p, double x, double y) {
+    double cuts[4];
+    int n = 0;
+    cuts[n++] = 0.0;
+    for (double a : {0.5 * kPi, 1.5 * kPi}) {
+        const double rel = normAngle(p.sw > 0.0 ? a - p.a0 : p.a0 - a);
+        const double t = rel / std::fabs(p.sw);
+        if (t > 0.0 && t < 1.0)
+            cuts[n++] = t;
+    }
+    if (n == 3 && cuts[2] < cuts[1])
+        std::swap(cuts[1], cuts[2]);
+    cuts[n++] = 1.0;
+    bool odd = false;
+    double xa = p.x0, ya = p.y0;
+    for (int k = 1; k < n; ++k) {
+        double xb, yb;
+        if (k == n - 1) {
+            xb = p.x1;
+            yb = p.y1;
+        } else {
+            const double a = p.a0 + p.sw * cuts[k];
+            xb = p.cx + p.r * std::cos(a);
+            yb = p.cy + p.r * std::sin(a);
+        }
+        if ((ya > y) != (yb > y)) {
+            const double am = p.a0 + p.sw * 0.5 * (cuts[k - 1] + cuts[k]);
+            const double dy = y - p.cy;
+            const double dx = std::sqrt(std::max(0.0, p.r * p.r - dy * dy));
+            const double xc = std::cos(am) >= 0.0 ? p.cx + dx : p.cx - dx;
+            if (xc > x)
+                odd = !odd;
+        }
+        xa = xb;
+        ya = yb;
+    }
+    (void)xa;
+    return odd;
+}
+
 } // namespace
 
 bool Piece2::isDot() const {
@@ -295,18 +341,15 @@ int classify(const Contour2& c, double x, double y) {
         if (x >= p.minx - kPointTol && x <= p.maxx + kPointTol && y >= p.miny - kPointTol &&
             y <= p.maxy + kPointTol && onPiece(p, x, y, t))
             return 0;
-        // Ray to +x against the chord, half-open in y.
+        if (p.arc) {
+            if (y >= p.miny && y <= p.maxy && x <= p.maxx && rayCrossesArc(p, x, y))
+                inside = !inside;
+            continue;
+        }
+        // Ray to +x, half-open in y, so a ray through a joint counts once.
         if ((p.y0 > y) != (p.y1 > y)) {
             const double xc = p.x0 + (y - p.y0) * (p.x1 - p.x0) / (p.y1 - p.y0);
             if (xc > x)
-                inside = !inside;
-        }
-        // The region between an arc and its chord is added to or cut from the
-        // polygon of chords; either way the point changes sides when inside it.
-        if (p.arc && std::hypot(x - p.cx, y - p.cy) < p.r) {
-            const double side = cross(p.x1 - p.x0, p.y1 - p.y0, x - p.x0, y - p.y0);
-            // A positive bulge puts the arc to the right of the chord.
-            if ((p.sw > 0.0 && side < 0.0) || (p.sw < 0.0 && side > 0.0))
                 inside = !inside;
         }
     }

@@ -286,3 +286,76 @@ TEST(Punch, HugeBulgeIsDefined) {
     EXPECT_LE(in.len() + out.len(), 2);
     EXPECT_GE(QOR::g_vx_split_dif(huge[0], 0.1), 1);
 }
+
+TEST(PunchReg, ScanRowsOfARingHaveExactChordLengths) {
+    // Ring of radius 10 with a hole of radius 3, both of arcs; one row per
+    // integer y as the scan-line fill does.
+    CQorArrayTempl<CQorVertexArray> ring;
+    ring.append(geomtest::circle(0, 0, 10));
+    CQorVertexArray hole = geomtest::circle(0, 0, 3);
+    hole.revert();
+    ring.append(hole);
+    for (int y = -10; y < 10; ++y) {
+        const double yy = y + 0.5;
+        const auto in = QOR::g_vl_punch_reg(line(-11, yy, 11, yy), ring, true);
+        double expect = 2.0 * std::sqrt(100.0 - yy * yy);
+        int pieces = 1;
+        if (std::fabs(yy) < 3.0) {
+            expect -= 2.0 * std::sqrt(9.0 - yy * yy);
+            pieces = 2;
+        }
+        EXPECT_EQ(in.len(), pieces) << "row " << yy;
+        EXPECT_NEAR(totalLength(in), expect, 1e-12) << "row " << yy;
+    }
+}
+
+TEST(PunchReg, RowOnTheChordOfTwoHalfCirclesIsInsideAndItsDotsToo) {
+    CQorArrayTempl<CQorVertexArray> reg;
+    reg.append(geomtest::circle(0, 0, 5));
+    const auto in = QOR::g_vl_punch_reg(line(-6, 0, 6, 0), reg, true);
+    ASSERT_EQ(in.len(), 1);
+    const auto dots = QOR::g_vl_measure(in[0], 1.0, CQorLineParm(0.0, -1.0));
+    // Dots at x = -5, -4, ..., 5.
+    ASSERT_EQ(dots.len(), 11);
+    for (int i = 0; i < dots.len(); ++i) {
+        EXPECT_NEAR(dots[i][0].m_start.x, -5.0 + i, 1e-12);
+        EXPECT_GE(QOR::g_vll_pt_inside(reg, dots[i][0].m_start), 0);
+    }
+}
+
+TEST(PtInside, ArcContourAgreesWithFineChordPolygonProperty) {
+    std::mt19937 rng(7777u);
+    std::uniform_real_distribution<double> u(-6.0, 6.0);
+    std::uniform_real_distribution<double> bu(-1.2, 1.2);
+    int compared = 0;
+    for (int n = 0; n < 60; ++n) {
+        CQorPoint3dArray pts;
+        const int k = 3 + n % 6;
+        for (int i = 0; i < k; ++i) {
+            const double a = 2 * kPi * i / k;
+            pts.append(CQorPoint3d(4 * std::cos(a), 4 * std::sin(a), 0));
+        }
+        CQorVertexArray contour;
+        contour.fromPoints(pts, true);
+        for (CQorVertex& v : contour)
+            v.m_bulge = 0.5 * bu(rng);
+        CQorArrayTempl<CQorVertexArray> exact, fine;
+        exact.append(contour);
+        fine.append(QOR::g_vl_expl(contour, 512));
+        for (int q = 0; q < 200; ++q) {
+            // Rows through the joints and the circle centres are the hard cases,
+            // so half of the points sit on the y of a vertex.
+            const double y = q % 2 ? contour[q % k].m_start.y : u(rng);
+            const CQorPoint3d p(u(rng), y, 0);
+            double d = 1e9;
+            for (const CQorVertex& v : contour)
+                d = std::min(d, v.lotp(p).distanceTo(p));
+            if (d < 0.01)
+                continue;
+            ++compared;
+            EXPECT_EQ(QOR::g_vll_pt_inside(exact, p), QOR::g_vll_pt_inside(fine, p))
+                << "case " << n << " point " << p.x << " " << p.y;
+        }
+    }
+    EXPECT_GT(compared, 5000);
+}
