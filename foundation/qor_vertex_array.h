@@ -32,7 +32,8 @@ public:
     bool extents(CQorPoint3d& min, CQorPoint3d& max) const;
 
     // Transformation in place and as a copy. The normal transforms as a direction
-    // and is normalised; each arc stays the same curve (see CQorVertex::transformBy).
+    // and is normalised (a matrix that flattens it to nothing leaves +z); each arc
+    // stays the same curve (see CQorVertex::transformBy).
     CQorVertexArray& transformBy(const double (*m)[4]);
     CQorVertexArray getTransformedCopy(const double (*m)[4]) const;
 
