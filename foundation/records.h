@@ -13,3 +13,4 @@
 #include "foundation/messages.h"
 #include "foundation/qor_color.h"
 #include "foundation/units.h"
+#include "foundation/view_matrix.h"

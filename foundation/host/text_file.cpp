@@ -16,6 +16,8 @@ void appendCodePoint(std::wstring& out, unsigned long cp) {
     }
 }
 
+#if !defined(_WIN32)
+// File names go to the C library as UTF-8.
 std::string toUtf8(const wchar_t* text) {
     std::string out;
     for (const wchar_t* p = text; *p; ++p) {
@@ -43,6 +45,7 @@ std::string toUtf8(const wchar_t* text) {
     }
     return out;
 }
+#endif
 
 std::FILE* openRead(const wchar_t* path) {
     if (!path || !*path)
