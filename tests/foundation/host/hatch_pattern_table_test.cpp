@@ -90,19 +90,19 @@ TEST(HatchPatternTable, MalformedLineIsRejectedAndTheRestKept) {
 }
 
 TEST(HatchPatternTable, BrokenInputNeverCrashes) {
-    const char* inputs[] = {"",
-                            "*",
-                            "*,",
-                            ",,,,,",
-                            "*A\n,,,,,\n",
-                            "*A\n1e999,0,0,0,1\n",
-                            "*A\nnan,0,0,0,1\n",
-                            "\xff\xfe*\x00\n",
-                            "*A\n-,-,-,-,-\n"};
-    for (const char* in : inputs) {
+    const std::string inputs[] = {"",
+                                  "*",
+                                  "*,",
+                                  ",,,,,",
+                                  "*A\n,,,,,\n",
+                                  "*A\n1e999,0,0,0,1\n",
+                                  "*A\nnan,0,0,0,1\n",
+                                  std::string("\xff\xfe*\x00\n", 5),
+                                  "*A\n-,-,-,-,-\n"};
+    for (const std::string& in : inputs) {
         CHatchPatternTable t;
         CQorArrayTempl<CQorString> rejected;
-        t.loadText(in, std::strlen(in) + (in[0] == '\xff' ? 4 : 0), &rejected);
+        t.loadText(in.data(), in.size(), &rejected);
         for (int i = 0; i < t.count(); ++i)
             for (int k = 0; k < t.at(i).lines.len(); ++k)
                 EXPECT_GE(t.at(i).lines[k].len(), 5);
