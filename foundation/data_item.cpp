@@ -150,6 +150,19 @@ bool CQorDataItem::get(CQorArrayTempl<CQorString>& out, const CQorDataKey* key) 
     return readAt(this, key, out);
 }
 
+bool CQorDataItem::get(CQorPoint3d& out, const CQorDataKey* key) const {
+    return readAt(this, key, out);
+}
+bool CQorDataItem::get(CQorPoint3dArray& out, const CQorDataKey* key) const {
+    return readAt(this, key, out);
+}
+bool CQorDataItem::get(CQorVertexArray& out, const CQorDataKey* key) const {
+    return readAt(this, key, out);
+}
+bool CQorDataItem::get(CQorMatrix3d& out, const CQorDataKey* key) const {
+    return readAt(this, key, out);
+}
+
 // A chain the tree keeps: known type codes, balanced lists, dotted pairs only as
 // the closing of a list.
 static bool storable(const resbuf* chain) {
@@ -228,6 +241,16 @@ bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key, double (*out)
     if (!at || at->isDir())
         return false;
     return rbReadMatrix(at->data(), out);
+}
+
+bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
+                 CQorArrayTempl<CQorVertexArray>& out) {
+    return item && readAt(item, key, out);
+}
+
+bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
+                 CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out) {
+    return item && readAt(item, key, out);
 }
 
 bool dataItemSetChain(CQorDataItem* item, const CQorDataKey* key, resbuf* chain) {

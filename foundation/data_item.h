@@ -3,8 +3,12 @@
 
 #include "foundation/data_key.h"
 #include "foundation/qor_array_templ.h"
+#include "foundation/qor_matrix3d.h"
 #include "foundation/qor_obj.h"
+#include "foundation/qor_point3d.h"
+#include "foundation/qor_point3d_array.h"
 #include "foundation/qor_string.h"
+#include "foundation/qor_vertex_array.h"
 #include "foundation/resbuf.h"
 
 class CQorDataDir;
@@ -23,8 +27,10 @@ class CQorDataDir;
 //    truncated toward zero; an unsigned long takes the 32 bits of a negative int;
 //  - double: from 5001, 5004 and from the integers;
 //  - CQorString: from a string; an integer or real gives its text;
+//  - CQorPoint3d: from a 5009 point, or a 5002 point with z 0;
 //  - arrays: from a list (5016 ... 5017) whose elements all convert; the empty value
-//    and nil give an empty array.
+//    and nil give an empty array;
+//  - vertex arrays, regions, matrices: from the encodings of resbuf_value.h.
 class QOR_API CQorDataItem : public CQorObj {
 public:
     // An empty value item.
@@ -66,6 +72,10 @@ public:
     bool get(CQorString& out, const CQorDataKey* key = nullptr) const;
     bool get(CQorArrayTempl<int>& out, const CQorDataKey* key = nullptr) const;
     bool get(CQorArrayTempl<CQorString>& out, const CQorDataKey* key = nullptr) const;
+    bool get(CQorPoint3d& out, const CQorDataKey* key = nullptr) const;
+    bool get(CQorPoint3dArray& out, const CQorDataKey* key = nullptr) const;
+    bool get(CQorVertexArray& out, const CQorDataKey* key = nullptr) const;
+    bool get(CQorMatrix3d& out, const CQorDataKey* key = nullptr) const;
 
     // Replaces the value by the chain; a directory item becomes a value item. With
     // copy false the chain is taken over (and released when it cannot be stored);
@@ -103,6 +113,10 @@ namespace QOR {
 // Reads of the data tree for the types that have no get(): see data_item.cpp's
 // conversions above. False for a null item, with `out` unchanged.
 QOR_API bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key, double (*out)[4]);
+QOR_API bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
+                         CQorArrayTempl<CQorVertexArray>& out);
+QOR_API bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
+                         CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out);
 
 // Writes a value at the key below the item, building directories on the way; a
 // null key writes the item's own value. False for a null item.

@@ -259,4 +259,221 @@ bool rbReadMatrix(const resbuf* chain, double (*out)[4]) {
     return true;
 }
 
+// ---------------------------------------------------------------------------------
+// Geometry
+
+resbuf* mkResbuf(const CQorMatrix3d& matrix) {
+    return mkResbuf(matrix.m);
+}
+
+resbuf* mkResbuf(const CQorPoint3d& point) {
+    const double xyz[3] = {point.x, point.y, point.z};
+    return rbPoint(xyz);
+}
+
+resbuf* mkResbuf(const CQorPoint3dArray& points) {
+    return listOf(points, [](const CQorPoint3d& p) { return mkResbuf(p); });
+}
+
+static resbuf* vertexList(const CQorVertex& v) {
+    resbuf* head = rbNew(kRtLb);
+    resbuf* tail = head;
+    tail = tail->rbnext = mkResbuf(v.m_start);
+    tail = tail->rbnext = mkResbuf(v.m_end);
+    tail = tail->rbnext = rbReal(v.m_bulge);
+    tail = tail->rbnext = rbLong(static_cast<std::int32_t>(v.m_attr));
+    tail->rbnext = rbNew(kRtLe);
+    return head;
+}
+
+resbuf* mkResbuf(const CQorVertexArray& vl) {
+    if (vl.len() == 0)
+        return rbNew(kRtNil);
+    resbuf* head = rbNew(kRtLb);
+    const CQorVector3d& n = vl.normal();
+    const double xyz[3] = {n.x, n.y, n.z};
+    resbuf* tail = head->rbnext = rbPoint(xyz);
+    for (int i = 0; i < vl.len(); ++i) {
+        tail->rbnext = vertexList(vl[i]);
+        tail = rbLast(tail);
+    }
+    tail->rbnext = rbNew(kRtLe);
+    return head;
+}
+
+resbuf* mkResbuf(const CQorArrayTempl<CQorVertexArray>& region) {
+    return listOf(region, [](const CQorVertexArray& vl) { return mkResbuf(vl); });
+}
+
+resbuf* mkResbuf(const CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& regions) {
+    return listOf(regions, [](const CQorArrayTempl<CQorVertexArray>& r) { return mkResbuf(r); });
+}
+
+bool rbRead(const resbuf* chain, CQorMatrix3d& out) {
+    double m[4][4];
+    if (!rbReadMatrix(chain, m))
+        return false;
+    for (int r = 0; r < 4; ++r)
+        for (int c = 0; c < 4; ++c)
+            out.m[r][c] = m[r][c];
+    return true;
+}
+
+static bool atomPoint(const resbuf* rb, CQorPoint3d& out) {
+    if (!rb || rbValueKind(rb->restype) != RbValueKind::Point)
+        return false;
+    out.set(rb->resval.rpoint[0], rb->resval.rpoint[1],
+            rb->restype == kRtPoint ? 0.0 : rb->resval.rpoint[2]);
+    return true;
+}
+
+bool rbRead(const resbuf* chain, CQorPoint3d& out) {
+    if (!isAtom(chain))
+        return false;
+    CQorPoint3d p;
+    if (!atomPoint(chain, p))
+        return false;
+    out = p;
+    return true;
+}
+
+bool rbRead(const resbuf* chain, CQorPoint3dArray& out) {
+    CQorPoint3dArray a;
+    const bool ok = forEachAtom(chain, [&](const resbuf* rb) {
+        CQorPoint3d p;
+        if (!atomPoint(rb, p))
+            return false;
+        a.append(p);
+        return true;
+    });
+    if (ok)
+        out = a;
+    return ok;
+}
+
+// Element readers: each reads one element at rb, moves rb past it and returns
+// whether it held that type. nil is an empty element.
+static bool readVertex(const resbuf*& rb, CQorVertex& out) {
+    if (!rb || rb->restype != kRtLb)
+        return false;
+    const resbuf* p = rb->rbnext;
+    CQorPoint3d s, e;
+    double bulge = 0.0;
+    long long attr = 0;
+    if (!atomPoint(p, s) || !atomPoint(p = p->rbnext, e))
+        return false;
+    p = p->rbnext;
+    if (!p || !atomReal(p, bulge))
+        return false;
+    p = p->rbnext;
+    if (!p || !atomInt(p, attr))
+        return false;
+    p = p->rbnext;
+    if (!p || p->restype != kRtLe)
+        return false;
+    out.set(s, e, bulge);
+    out.m_attr = static_cast<std::uint32_t>(attr);
+    rb = p->rbnext;
+    return true;
+}
+
+static bool readVl(const resbuf*& rb, CQorVertexArray& out) {
+    if (rb && rb->restype == kRtNil) {
+        out = CQorVertexArray();
+        rb = rb->rbnext;
+        return true;
+    }
+    if (!rb || rb->restype != kRtLb)
+        return false;
+    const resbuf* p = rb->rbnext;
+    CQorPoint3d n;
+    if (!atomPoint(p, n))
+        return false;
+    CQorVertexArray vl;
+    vl.normalSet(CQorVector3d(n.x, n.y, n.z));
+    p = p->rbnext;
+    while (p && p->restype != kRtLe) {
+        CQorVertex v;
+        if (!readVertex(p, v))
+            return false;
+        vl.append(v);
+    }
+    if (!p)
+        return false;
+    out = vl;
+    rb = p->rbnext;
+    return true;
+}
+
+template <class T, class F>
+static bool readListOf(const resbuf*& rb, CQorArrayTempl<T>& out, F one) {
+    if (rb && rb->restype == kRtNil) {
+        out = CQorArrayTempl<T>();
+        rb = rb->rbnext;
+        return true;
+    }
+    if (!rb || rb->restype != kRtLb)
+        return false;
+    const resbuf* p = rb->rbnext;
+    CQorArrayTempl<T> a;
+    while (p && p->restype != kRtLe) {
+        T element;
+        if (!one(p, element))
+            return false;
+        a.append(element);
+    }
+    if (!p)
+        return false;
+    out = a;
+    rb = p->rbnext;
+    return true;
+}
+
+static bool readRegion(const resbuf*& rb, CQorArrayTempl<CQorVertexArray>& out) {
+    return readListOf(rb, out, [](const resbuf*& p, CQorVertexArray& vl) { return readVl(p, vl); });
+}
+
+static bool readRegions(const resbuf*& rb, CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out) {
+    return readListOf(rb, out, [](const resbuf*& p, CQorArrayTempl<CQorVertexArray>& r) {
+        return readRegion(p, r);
+    });
+}
+
+// A whole chain holding exactly one element of the type; the empty value is an
+// empty element.
+template <class T, class F> static bool readWhole(const resbuf* chain, T& out, F one) {
+    if (!chain) {
+        out = T();
+        return true;
+    }
+    T value;
+    const resbuf* rb = chain;
+    if (!one(rb, value) || rb != nullptr)
+        return false;
+    out = value;
+    return true;
+}
+
+bool rbRead(const resbuf* chain, CQorVertexArray& out) {
+    return readWhole(chain, out, readVl);
+}
+
+bool rbRead(const resbuf* chain, CQorArrayTempl<CQorVertexArray>& out) {
+    return readWhole(chain, out, readRegion);
+}
+
+bool rbRead(const resbuf* chain, CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out) {
+    return readWhole(chain, out, readRegions);
+}
+
+bool fromRb(CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out, resbuf*& chain, int) {
+    const resbuf* rb = chain;
+    CQorArrayTempl<CQorArrayTempl<CQorVertexArray>> regions;
+    if (!readRegions(rb, regions))
+        return false;
+    out = regions;
+    chain = const_cast<resbuf*>(rb);
+    return true;
+}
+
 } // namespace QOR
