@@ -6,8 +6,7 @@ namespace {
 
 // Exposes the rebuild of the extents cache.
 struct BenchGdx : CQorGDX {
-    BenchGdx()
-        : CQorGDX(CQorColor(), CQorMatrix3d(), 1.0, 0, CQorPoint3d(), CQorPoint3d()) {}
+    BenchGdx() : CQorGDX(CQorColor(), CQorMatrix3d(), 1.0, 0, CQorPoint3d(), CQorPoint3d()) {}
     using CQorGDX::refresh_ext;
 };
 
@@ -25,8 +24,8 @@ void fill(BenchGdx& gdx, int n) {
     for (int i = 0; i < n; ++i) {
         stack[0] = i / 1000;
         stack[1] = i;
-        gdx.imageVl(stack, 0, segmentAt(i), color, CQorMatrix3d(), CQorArrayTempl<double>(), 1.0,
-                    1, CQorPoint3d());
+        gdx.imageVl(stack, 0, segmentAt(i), color, CQorMatrix3d(), CQorArrayTempl<double>(), 1.0, 1,
+                    CQorPoint3d());
     }
 }
 
@@ -51,7 +50,11 @@ void BM_GdxRebuildExtents(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * n);
     state.SetComplexityN(n);
 }
-BENCHMARK(BM_GdxRebuildExtents)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(BM_GdxRebuildExtents)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
 
 void BM_GdxSortAlreadySorted(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
@@ -61,7 +64,11 @@ void BM_GdxSortAlreadySorted(benchmark::State& state) {
         gdx.displListSort();
     state.SetComplexityN(n);
 }
-BENCHMARK(BM_GdxSortAlreadySorted)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(BM_GdxSortAlreadySorted)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
 
 // Regions appended after lines must all move below them: a full reordering copy.
 void BM_GdxSortLinesThenRegions(benchmark::State& state) {
@@ -82,7 +89,11 @@ void BM_GdxSortLinesThenRegions(benchmark::State& state) {
     }
     state.SetComplexityN(n);
 }
-BENCHMARK(BM_GdxSortLinesThenRegions)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(BM_GdxSortLinesThenRegions)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
 
 void BM_GdxPick(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
@@ -107,6 +118,10 @@ void BM_GdxPropSetGroupOfThousand(benchmark::State& state) {
     }
     state.SetComplexityN(n);
 }
-BENCHMARK(BM_GdxPropSetGroupOfThousand)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(BM_GdxPropSetGroupOfThousand)
+    ->Arg(10000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
 
 } // namespace

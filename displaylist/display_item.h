@@ -83,20 +83,20 @@ public:
 
     QorDisplayObj type = static_cast<QorDisplayObj>(0);
     std::uint32_t flag = 0;
-    CQorArrayTempl<int> stack;        // path of groups, outermost first
-    CQorColor color;                  // line colour
-    CQorArrayTempl<double> linetype;  // pattern as given; {1.0} is solid
-    double ltscale = 0.0;             // pattern scale
-    CQorPoint3d point;                // point / text insertion; anchor of fixed-size items
-    std::uint32_t pdMode = 0;         // point style (GDX_PT) or picture number (GDX_PICTURE)
-    double pdSize = 0.0;              // point size, 0.0: the document's
-    CQorVertexArray vertices;         // GDX_VL geometry; picture rectangle; fixed-size anchor
+    CQorArrayTempl<int> stack;       // path of groups, outermost first
+    CQorColor color;                 // line colour
+    CQorArrayTempl<double> linetype; // pattern as given; {1.0} is solid
+    double ltscale = 0.0;            // pattern scale
+    CQorPoint3d point;               // point / text insertion; anchor of fixed-size items
+    std::uint32_t pdMode = 0;        // point style (GDX_PT) or picture number (GDX_PICTURE)
+    double pdSize = 0.0;             // point size, 0.0: the document's
+    CQorVertexArray vertices;        // GDX_VL geometry; picture rectangle; fixed-size anchor
     CQorArrayTempl<CQorVertexArray> regions; // GDX_REG contours
-    CQorMatrix3d mtx;                 // placement of the geometry
-    CQorColor fcolor;                 // fill colour
-    std::uint32_t thickn = 0;         // pen width in device units
-    QOR::CHatchProp hatch;            // hatch of a region
-    CQorString txtAlign;              // GDX_TXT alignment
-    CQorString txt;                   // GDX_TXT text; GDX_PICTURE file or resource name
+    CQorMatrix3d mtx;                        // placement of the geometry
+    CQorColor fcolor;                        // fill colour
+    std::uint32_t thickn = 0;                // pen width in device units
+    QOR::CHatchProp hatch;                   // hatch of a region
+    CQorString txtAlign;                     // GDX_TXT alignment
+    CQorString txt;                          // GDX_TXT text; GDX_PICTURE file or resource name
     CQorArrayTempl<CQorArrayTempl<CQorVertexArray>> regionList; // GDX_TXT glyph regions
 };

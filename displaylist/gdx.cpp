@@ -1,6 +1,7 @@
 #include "displaylist/gdx.h"
 
 #include "foundation/application.h"
+#include "foundation/color_value.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
 
@@ -19,7 +20,9 @@ const ConfiguredColor kConfiguredColors[] = {
     {QOR::GdxCmBase, L"BASE"},           {QOR::GdxCmAux, L"AUX"},
 };
 
-unsigned long inverseOf(const CQorColor& c) { return ~c.oleColor() & 0xFFFFFFul; }
+unsigned long inverseOf(const CQorColor& c) {
+    return ~c.oleColor() & 0xFFFFFFul;
+}
 
 // An empty contour for regions that have none; it is only read.
 const CQorVertexArray& emptyContour() {
@@ -44,7 +47,7 @@ CQorGDX::CQorGDX() {
         CQorColor color;
         if (dir) {
             const CQorDataKey key(entry.name);
-            dataItemGet(dir, &key, color);
+            QOR::dataItemGet(dir, &key, color);
         }
         ColorTabSet(entry.mode, color);
     }
@@ -67,8 +70,8 @@ bool countsForExtents(unsigned long flag) {
 
 void CQorGDX::imageVl(const CQorArrayTempl<int>& stack, unsigned long flag,
                       const CQorVertexArray& vl, const CQorColor& color, const CQorMatrix3d& mtx,
-                      const CQorArrayTempl<double>& linetype, double ltscale,
-                      unsigned long thickn, const CQorPoint3d& anchor) {
+                      const CQorArrayTempl<double>& linetype, double ltscale, unsigned long thickn,
+                      const CQorPoint3d& anchor) {
     CQorDisplayItem item;
     item.type = GDX_VL;
     item.stack = stack;
@@ -157,23 +160,45 @@ bool CQorGDX::addDisplayList(const CQorArrayTempl<CQorDisplayItem>& items) {
 
 // --- Item accessors -----------------------------------------------------------------
 
-QorDisplayObj CQorGDX::typeGet(int i) const { return itemAt(i).type; }
-unsigned long CQorGDX::flagGet(int i) const { return itemAt(i).flag; }
-const CQorColor& CQorGDX::colorGet(int i) const { return itemAt(i).color; }
-const CQorColor& CQorGDX::fcolorGet(int i) const { return itemAt(i).fcolor; }
-const CQorArrayTempl<double>& CQorGDX::linetypeGet(int i) const { return itemAt(i).linetype; }
-double CQorGDX::ltscaleGet(int i) const { return itemAt(i).ltscale; }
-int CQorGDX::thicknGet(int i) const { return static_cast<int>(itemAt(i).thickn); }
-const CQorMatrix3d& CQorGDX::mtxGet(int i) const { return itemAt(i).mtx; }
-void CQorGDX::geomGet(CQorVertexArray& out, int i) const { out = itemAt(i).vertices; }
-void CQorGDX::geomGet(CQorPoint3d& out, int i) const { out = itemAt(i).point; }
+QorDisplayObj CQorGDX::typeGet(int i) const {
+    return itemAt(i).type;
+}
+unsigned long CQorGDX::flagGet(int i) const {
+    return itemAt(i).flag;
+}
+const CQorColor& CQorGDX::colorGet(int i) const {
+    return itemAt(i).color;
+}
+const CQorColor& CQorGDX::fcolorGet(int i) const {
+    return itemAt(i).fcolor;
+}
+const CQorArrayTempl<double>& CQorGDX::linetypeGet(int i) const {
+    return itemAt(i).linetype;
+}
+double CQorGDX::ltscaleGet(int i) const {
+    return itemAt(i).ltscale;
+}
+int CQorGDX::thicknGet(int i) const {
+    return static_cast<int>(itemAt(i).thickn);
+}
+const CQorMatrix3d& CQorGDX::mtxGet(int i) const {
+    return itemAt(i).mtx;
+}
+void CQorGDX::geomGet(CQorVertexArray& out, int i) const {
+    out = itemAt(i).vertices;
+}
+void CQorGDX::geomGet(CQorPoint3d& out, int i) const {
+    out = itemAt(i).point;
+}
 void CQorGDX::geomGet(CQorArrayTempl<CQorVertexArray>& out, int i) const {
     out = itemAt(i).regions;
 }
 void CQorGDX::geomGet(CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out, int i) const {
     out = itemAt(i).regionList;
 }
-void CQorGDX::itemStackGet(CQorArrayTempl<int>& out, int i) const { out = itemAt(i).stack; }
+void CQorGDX::itemStackGet(CQorArrayTempl<int>& out, int i) const {
+    out = itemAt(i).stack;
+}
 
 unsigned long CQorGDX::pdModeGet(int i) const {
     const std::uint32_t mode = itemAt(i).pdMode;
@@ -325,9 +350,13 @@ bool CQorGDX::mtxSet(const CQorArrayTempl<int>& stack, const CQorMatrix3d& m) {
     return true;
 }
 
-bool CQorGDX::clear(const CQorArrayTempl<int>& stack) { return removeSelected(stack); }
+bool CQorGDX::clear(const CQorArrayTempl<int>& stack) {
+    return removeSelected(stack);
+}
 
-bool CQorGDX::removeItemStack(const CQorArrayTempl<int>& stack) { return removeSelected(stack); }
+bool CQorGDX::removeItemStack(const CQorArrayTempl<int>& stack) {
+    return removeSelected(stack);
+}
 
 // Removing the selected items one by one from the highest index down, each with a
 // rebuild, leaves the same list and extents as one pass that keeps the others in

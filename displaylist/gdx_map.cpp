@@ -1,8 +1,10 @@
 #include "displaylist/gdx_map.h"
 
+#include "foundation/color_value.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
 #include "foundation/qor_map_templ.h"
+#include "foundation/qor_str_fcn.h"
 
 namespace {
 
@@ -33,7 +35,9 @@ int intFromItemOrConfig(const CQorDataItem* item, const wchar_t* key, const wcha
 
 } // namespace
 
-CQorGDX* getGdxFromMap(int key) { return documents().lookup(key); }
+CQorGDX* getGdxFromMap(int key) {
+    return documents().lookup(key);
+}
 
 int gdxMapKeyNew() {
     int key = 1;
@@ -51,7 +55,9 @@ void gdxMapSetAt(int key, CQorGDX& gdx) {
     map.valueAt(pos) = gdx;
 }
 
-bool gdxMapRemoveAt(int key) { return documents().remove(key); }
+bool gdxMapRemoveAt(int key) {
+    return documents().remove(key);
+}
 
 int createGdxInMap(CQorDataItem* item) {
     if (item && !item->isDir())
@@ -69,7 +75,7 @@ int createGdxInMap(CQorDataItem* item) {
         const CQorDataKey extKey(L"EXTVIEW");
         item->get(corners, &extKey);
         const CQorDataKey mtxKey(L"MTX");
-        dataItemGet(item, &mtxKey, static_cast<double(*)[4]>(proj));
+        QOR::dataItemGet(item, &mtxKey, static_cast<double(*)[4]>(proj));
     }
     const int key = gdxMapKeyNew();
     CQorGDX fresh(background, proj, static_cast<double>(pdSize), static_cast<unsigned long>(pdMode),
@@ -86,7 +92,7 @@ int createGdxInMap(CQorDataItem* item) {
         if (cfg && cfg->get(index, nullptr))
             color.setColorIndex(static_cast<short>(index));
         else if ((cfg = QOR::cfg_get(kColorKeys[i])) != nullptr)
-            dataItemGet(cfg, nullptr, color);
+            QOR::dataItemGet(cfg, nullptr, color);
         if (i < 5)
             gdx->ColorTabSet(i + 1, color);
         else

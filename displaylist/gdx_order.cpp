@@ -67,7 +67,7 @@ int CQorGDX::imageItemGet(const CQorPoint3d& p) {
             const CQorVertexArray placed = shape.getTransformedCopy(item.mtx);
             for (int k = 0; k < placed.len() && !found; ++k) {
                 const CQorVertex& v = placed[k];
-                if (v.start == v.end)
+                if (v.m_start == v.m_end)
                     continue;
                 found = w.distanceTo(v.lotp(w)) <= kPickTolerance;
             }

@@ -23,7 +23,8 @@ void CQorGDX::viewDirectionHvcSet(const CQorVector3d& dir) {
 }
 
 bool CQorGDX::viewDirectionSet(CQorString name) {
-    static const wchar_t* const kNames[] = {L"P", L"N", L"S", L"O", L"W", L"NO", L"NW", L"SO", L"SW"};
+    static const wchar_t* const kNames[] = {L"P",  L"N",  L"S",  L"O", L"W",
+                                            L"NO", L"NW", L"SO", L"SW"};
     for (const wchar_t* known : kNames) {
         if (name == known) {
             viewDirectionHvcSet(qor_gdx_view_vdir_get(name));
@@ -76,7 +77,9 @@ bool CQorGDX::extmaxGet(const CQorArrayTempl<int>& stack, CQorPoint3d& min,
             hi = lo;
             break;
         case GDX_REG:
-            (item.regions.len() > 0 ? item.regions[0] : empty).getTransformedCopy(m).extents(lo, hi);
+            (item.regions.len() > 0 ? item.regions[0] : empty)
+                .getTransformedCopy(m)
+                .extents(lo, hi);
             break;
         case GDX_TXT:
             // Each glyph overwrites the box of the one before: only the last one folds.

@@ -50,8 +50,8 @@ CQorVector3d qor_gdx_view_vdir_get(const CQorString& name) {
     return CQorVector3d();
 }
 
-CQorVertexArray qor_g_vl_mtx_view(const CQorVertexArray& vl, CQorVector3d dir,
-                                  CQorPoint3d origin, bool flag) {
+CQorVertexArray qor_g_vl_mtx_view(const CQorVertexArray& vl, CQorVector3d dir, CQorPoint3d origin,
+                                  bool flag) {
     const CQorMatrix3d view = QOR::g_mtx_view(dir, origin, flag);
     CQorVertexArray out = vl.getTransformedCopy(view);
     for (int i = 0; i < out.len(); ++i)

@@ -1,4 +1,5 @@
 #include "displaylist/gdx.h"
+#include "displaylist/view_mtx.h"
 
 #include "gdx_test_util.h"
 
@@ -49,9 +50,9 @@ TEST(Order, ListInLayerOrderIsNotCopied) {
 
 TEST(Order, HighlightedRegionLiesBetweenReferLineAndHighlightedLine) {
     CQorGDX gdx = plainDoc();
-    addLine(gdx, {1}, 0x100, segment(0, 0, 1, 1));             // highlighted line: 5
-    addRegion(gdx, {2}, 0x100, region(rect(0, 0, 1, 1)));      // highlighted region: 4
-    addLine(gdx, {3}, 0x200, segment(0, 0, 1, 1));             // refer line: 3
+    addLine(gdx, {1}, 0x100, segment(0, 0, 1, 1));        // highlighted line: 5
+    addRegion(gdx, {2}, 0x100, region(rect(0, 0, 1, 1))); // highlighted region: 4
+    addLine(gdx, {3}, 0x200, segment(0, 0, 1, 1));        // refer line: 3
     gdx.displListSort();
     EXPECT_EQ(topGroup(gdx, 0), 3);
     EXPECT_EQ(topGroup(gdx, 1), 2);
@@ -135,4 +136,39 @@ TEST(Pick, ItemWithoutStackAnswersZero) {
     CQorGDX gdx = plainDoc();
     addLine(gdx, {}, 0, segment(0, 0, 10, 0));
     EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(5, 0, 0)), 0);
+}
+
+TEST(Pick, ThroughAFittedViewAndAZoom) {
+    CQorGDX gdx = plainDoc();
+    addLine(gdx, {1}, 0, segment(0, 0, 100, 0));
+    addLine(gdx, {2}, 0, segment(0, 100, 100, 100));
+    CQorPoint3d lo, hi;
+    ASSERT_TRUE(gdx.extmaxGet(lo, hi));
+    gdx.viewMtxSet(getViewMtx(lo, hi, 200, 200, 0.05));
+    CQorMatrix3d zoom;
+    zoom.setToScaling(2.0, CQorPoint3d(100, 100, 0));
+    gdx.zoomMtxSet(zoom);
+    // World (50, 100) lies on line 2; find its device point through the chain.
+    CQorPoint3d onTwo(50, 100, 0);
+    onTwo *= gdx.zoomMtxGet() * gdx.viewMtxGet();
+    EXPECT_EQ(gdx.imageItemGet(onTwo), 2);
+    CQorPoint3d between(50, 50, 0);
+    between *= gdx.zoomMtxGet() * gdx.viewMtxGet();
+    EXPECT_EQ(gdx.imageItemGet(between), -1);
+}
+
+TEST(Order, MixedListComesOutInTheSixLayers) {
+    CQorGDX gdx = plainDoc();
+    gdx.imagePicture(path({1}), 0, L"p.bmp", 1, CQorPoint3d(), CQorPoint3d()); // 6
+    addLine(gdx, {2}, 0x100, segment(0, 0, 1, 1));                             // 5
+    addRegion(gdx, {3}, 0x100, region(rect(0, 0, 1, 1)));                      // 4
+    addPoint(gdx, {4}, 0x200, CQorPoint3d());                                  // 3
+    addLine(gdx, {5}, 0x400, segment(0, 0, 1, 1));                             // 2
+    addRegion(gdx, {6}, 0x200, region(rect(0, 0, 1, 1)));                      // 3
+    addRegion(gdx, {7}, 0xF00, region(rect(0, 0, 1, 1)));                      // 1
+    addPoint(gdx, {8}, 0, CQorPoint3d());                                      // 2
+    gdx.displListSort();
+    const int expected[] = {7, 5, 8, 4, 6, 3, 2, 1};
+    for (int i = 0; i < 8; ++i)
+        EXPECT_EQ(topGroup(gdx, i), expected[i]) << "position " << i;
 }

@@ -177,8 +177,8 @@ TEST(Gdx, MtxSetMovesTheGroupByTheOwnersChange) {
     shift.setToTranslation(CQorVector3d(10, 0, 0));
     gdx.imageVl(path({1, 1}), 0, segment(0, 0, 1, 0), indexed(1), shift, CQorArrayTempl<double>(),
                 1.0, 1, CQorPoint3d());
-    gdx.imageVl(path({1}), 0, segment(0, 0, 1, 0), indexed(1), shift, CQorArrayTempl<double>(),
-                1.0, 1, CQorPoint3d());
+    gdx.imageVl(path({1}), 0, segment(0, 0, 1, 0), indexed(1), shift, CQorArrayTempl<double>(), 1.0,
+                1, CQorPoint3d());
     CQorMatrix3d target;
     target.setToTranslation(CQorVector3d(10, 5, 0));
     EXPECT_TRUE(gdx.mtxSet(path({1}), target));
@@ -197,10 +197,10 @@ TEST(Gdx, MtxSetWithoutOwnerOfPathLengthTakesTheLastSelected) {
     CQorMatrix3d a, b;
     a.setToTranslation(CQorVector3d(1, 0, 0));
     b.setToTranslation(CQorVector3d(0, 2, 0));
-    gdx.imageVl(path({4, 1}), 0, segment(0, 0, 1, 0), indexed(1), a, CQorArrayTempl<double>(),
-                1.0, 1, CQorPoint3d());
-    gdx.imageVl(path({4, 2}), 0, segment(0, 0, 1, 0), indexed(1), b, CQorArrayTempl<double>(),
-                1.0, 1, CQorPoint3d());
+    gdx.imageVl(path({4, 1}), 0, segment(0, 0, 1, 0), indexed(1), a, CQorArrayTempl<double>(), 1.0,
+                1, CQorPoint3d());
+    gdx.imageVl(path({4, 2}), 0, segment(0, 0, 1, 0), indexed(1), b, CQorArrayTempl<double>(), 1.0,
+                1, CQorPoint3d());
     CQorMatrix3d target;
     target.setToTranslation(CQorVector3d(0, 12, 0));
     EXPECT_TRUE(gdx.mtxSet(path({4}), target));
@@ -257,8 +257,8 @@ TEST(Gdx, IncrementalExtentsEqualTheRebuild) {
     CQorGDX gdx = plainDoc();
     CQorMatrix3d turn;
     turn.setToRotation(0.5, CQorVector3d::kZAxis, CQorPoint3d(1, 2, 0));
-    gdx.imageVl(path({1}), 0, segment(-3, 4, 8, 1), indexed(1), turn, CQorArrayTempl<double>(),
-                1.0, 1, CQorPoint3d());
+    gdx.imageVl(path({1}), 0, segment(-3, 4, 8, 1), indexed(1), turn, CQorArrayTempl<double>(), 1.0,
+                1, CQorPoint3d());
     addPoint(gdx, {2}, 0, CQorPoint3d(-7, 9, 2));
     addRegion(gdx, {3}, 0, region(rect(5, -6, 9, 0)));
     CQorPoint3d lo, hi;
@@ -295,8 +295,8 @@ TEST(Gdx, FixedSizeItemsKeepTheirAnchor) {
     CQorVertexArray vl;
     gdx.geomGet(vl, 1);
     ASSERT_EQ(vl.len(), 1);
-    EXPECT_EQ(vl[0].start, anchor);
-    EXPECT_EQ(vl[0].end, CQorPoint3d());
+    EXPECT_EQ(vl[0].m_start, anchor);
+    EXPECT_EQ(vl[0].m_end, CQorPoint3d());
     gdx.geomGet(p, 2);
     EXPECT_EQ(p, CQorPoint3d());
 }
@@ -307,9 +307,8 @@ TEST(Gdx, RegionFillColourFallsBackToLineColourWithoutIndex) {
                  CQorArrayTempl<double>(), 1.0, 1, CQorColor(), QOR::CHatchProp(), CQorPoint3d());
     gdx.imageReg(path({2}), GDX_FLAG_HATCH, region(rect(0, 0, 1, 1)), indexed(3), CQorMatrix3d(),
                  CQorArrayTempl<double>(), 1.0, 1, indexed(5), QOR::CHatchProp(), CQorPoint3d());
-    gdx.imageReg(path({3}), GDX_FLAG_OUTLINE, region(rect(0, 0, 1, 1)), indexed(3),
-                 CQorMatrix3d(), CQorArrayTempl<double>(), 1.0, 1, indexed(5), QOR::CHatchProp(),
-                 CQorPoint3d());
+    gdx.imageReg(path({3}), GDX_FLAG_OUTLINE, region(rect(0, 0, 1, 1)), indexed(3), CQorMatrix3d(),
+                 CQorArrayTempl<double>(), 1.0, 1, indexed(5), QOR::CHatchProp(), CQorPoint3d());
     EXPECT_EQ(gdx.fcolorGet(0).colorIndex(), 3);
     EXPECT_EQ(gdx.fcolorGet(1).colorIndex(), 5);
     EXPECT_LT(gdx.fcolorGet(2).colorIndex(), 0);

@@ -50,8 +50,8 @@ inline CQorGDX plainDoc() {
 
 inline void addLine(CQorGDX& gdx, std::initializer_list<int> stack, unsigned long flag,
                     const CQorVertexArray& vl) {
-    gdx.imageVl(path(stack), flag, vl, indexed(1), CQorMatrix3d(), CQorArrayTempl<double>(), 1.0,
-                1, CQorPoint3d());
+    gdx.imageVl(path(stack), flag, vl, indexed(1), CQorMatrix3d(), CQorArrayTempl<double>(), 1.0, 1,
+                CQorPoint3d());
 }
 
 inline void addRegion(CQorGDX& gdx, std::initializer_list<int> stack, unsigned long flag,

@@ -31,7 +31,8 @@ TEST(View, MarginIsMeasuredOnTheLongerSideAndTheBoxIsCentred) {
     // Box (0,0)-(100,50) in 100 by 100: m = 5, box (-5,-5)-(105,55), s = 100 / 110,
     // and the box moves down by (110 - 60) / 2 = 25 units to sit in the middle.
     const double s = 100.0 / 110.0;
-    const CQorMatrix3d m = getViewMtx(CQorPoint3d(0, 0, 0), CQorPoint3d(100, 50, 0), 100, 100, 0.05);
+    const CQorMatrix3d m =
+        getViewMtx(CQorPoint3d(0, 0, 0), CQorPoint3d(100, 50, 0), 100, 100, 0.05);
     expectNear(apply(m, CQorPoint3d(0, 0, 0)), s * 5, 100 - s * 30, 0);
     expectNear(apply(m, CQorPoint3d(100, 50, 0)), s * 105, 100 - s * 80, 0);
     expectNear(apply(m, CQorPoint3d(-5, -30, 2)), 0, 100, 2 * s);
@@ -41,7 +42,8 @@ TEST(View, EqualCornersGiveTheIdentity) {
     const CQorPoint3d p(3, 4, 5);
     const CQorMatrix3d m = getViewMtx(p, p, 100, 100, 0.05);
     expectNear(apply(m, CQorPoint3d(7, 8, 9)), 7, 8, 9);
-    const CQorMatrix3d flat = getViewMtx(CQorPoint3d(0, 0, 0), CQorPoint3d(0, 10, 0), 100, 100, 0.0);
+    const CQorMatrix3d flat =
+        getViewMtx(CQorPoint3d(0, 0, 0), CQorPoint3d(0, 10, 0), 100, 100, 0.0);
     expectNear(apply(flat, CQorPoint3d(7, 8, 9)), 7, 8, 9);
 }
 
@@ -190,4 +192,28 @@ TEST(View, PictureInAGroupCountsWithoutABox) {
     // Nothing was measured: the untouched start box folds away against the preset.
     expectNear(lo, 0, 0, 0);
     expectNear(hi, 0, 0, 0);
+}
+
+TEST(View, DevicePointGoesBackUnderEveryCompassDirection) {
+    const wchar_t* const names[] = {L"P", L"N", L"S", L"O", L"W", L"NO", L"NW", L"SO", L"SW"};
+    for (const wchar_t* name : names) {
+        CQorGDX gdx = plainDoc();
+        addLine(gdx, {1}, 0, segment(-20, 5, 100, 50));
+        addPoint(gdx, {2}, 0, CQorPoint3d(10, 10, 30));
+        ASSERT_TRUE(gdx.viewDirectionSet(name));
+        CQorPoint3d lo, hi;
+        ASSERT_TRUE(gdx.extmaxGet(lo, hi));
+        gdx.viewMtxSet(getViewMtx(lo, hi, 480, 640, 0.05));
+        CQorMatrix3d zoom;
+        zoom.setToScaling(1.5, CQorPoint3d(320, 240, 0));
+        gdx.zoomMtxSet(zoom);
+        const CQorPoint3d world(12, -7, 4);
+        const CQorPoint3d device = apply(gdx.zoomMtxGet() * gdx.viewMtxGet() * gdx.projMtxGet() *
+                                             gdx.viewDirectionMtxGet(),
+                                         world);
+        const CQorPoint3d back = gdx.imagePtWc(device);
+        EXPECT_NEAR(back.x, 12, 1e-9) << "direction " << CQorString(name).len();
+        EXPECT_NEAR(back.y, -7, 1e-9);
+        EXPECT_NEAR(back.z, 4, 1e-9);
+    }
 }
