@@ -8,9 +8,24 @@
 
 namespace {
 
-// Largest magnitude of a scaled value that formats 3 to 5 take; doubles above it
-// are no longer all whole numbers.
-constexpr double kExactLimit = 9.0e15;
+// Largest count of steps (10^-prec or 2^-prec) that formats 3 to 5 write. Below
+// it a double has at most an eighth between neighbours, so that the value read
+// back from a text, scaled again, lies well within half a step of the count the
+// text was written from, and writes the same text.
+constexpr double kMaxSteps = 1.0e15;
+
+// The value as a whole count of steps, rounded half away from zero; false when it
+// is above kMaxSteps.
+bool stepCount(double a, double scale, std::uint64_t& n) {
+    const double x = a * scale;
+    if (!(x < 2.0 * kMaxSteps))
+        return false;
+    const double r = std::round(x);
+    if (r > kMaxSteps)
+        return false;
+    n = static_cast<std::uint64_t>(r);
+    return true;
+}
 // Longest text qorAtoF looks at.
 constexpr std::size_t kMaxInput = 1024;
 
@@ -105,10 +120,9 @@ bool qorRtoS(wchar_t* out, double v, Qor::lFormat fmt, int prec, bool option) {
         std::uint64_t scale = 1;
         for (int i = 0; i < prec; ++i)
             scale *= 10;
-        const double x = a * static_cast<double>(scale);
-        if (!(x < kExactLimit))
+        std::uint64_t n = 0;
+        if (!stepCount(a, static_cast<double>(scale), n))
             return false;
-        const std::uint64_t n = static_cast<std::uint64_t>(std::llround(x));
         isZero = n == 0;
         const std::uint64_t feet = n / (12 * scale);
         const std::uint64_t rem = n % (12 * scale);
@@ -125,10 +139,9 @@ bool qorRtoS(wchar_t* out, double v, Qor::lFormat fmt, int prec, bool option) {
     case Qor::formatArchitectural:
     case Qor::formatFractional: {
         const std::uint64_t scale = std::uint64_t(1) << prec;
-        const double x = a * static_cast<double>(scale);
-        if (!(x < kExactLimit))
+        std::uint64_t n = 0;
+        if (!stepCount(a, static_cast<double>(scale), n))
             return false;
-        const std::uint64_t n = static_cast<std::uint64_t>(std::llround(x));
         isZero = n == 0;
         const std::uint64_t mask = scale - 1;
         if (fmt == Qor::formatArchitectural) {

@@ -27,8 +27,9 @@ constexpr int kQorLengthTextSize = 56;
 // formats 1 to 3 are left out, and the decimal point with them ("15.5", "1.55E+01",
 // "1'-3\""); formats 4 and 5 are not affected.
 // False, with out holding an empty text, when out is null, v is not finite, fmt is
-// not 1 to 5, or the text does not fit: formats 3 to 5 also need v * 10^prec (or
-// v * 2^prec) below 9e15, where doubles stop being exact whole numbers.
+// not 1 to 5, or the text does not fit. Formats 3 to 5 also fail when v counts
+// more than 10^15 steps of their precision (v * 10^prec or v * 2^prec), so that
+// every text they write reads back to a value that writes the same text.
 QOR_API bool qorRtoS(wchar_t* out, double v, Qor::lFormat fmt, int prec, bool option);
 
 // Reads a length from its text, in any of the notations above, and plain numbers:

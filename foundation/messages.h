@@ -18,7 +18,8 @@ namespace QOR {
 // Sets the current language to the code lang (a code of qorDlCountrys, such as
 // "DEU", or any other non-empty code) and returns the current code. Null, an
 // empty text and "-1" only read it. The language at start is "DEU". The returned
-// characters stay valid until the language changes again.
+// characters stay valid for the life of the library, also when the language
+// changes later.
 QOR_API const wchar_t* msgLangSet(const wchar_t* lang);
 
 } // namespace QOR

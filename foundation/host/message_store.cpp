@@ -5,6 +5,7 @@
 #include "foundation/messages.h"
 
 #include <map>
+#include <set>
 #include <string>
 
 namespace {
@@ -20,8 +21,15 @@ std::map<std::wstring, PrefixTexts>& store() {
     return s;
 }
 
-std::wstring& currentLang() {
-    static std::wstring lang = L"DEU";
+// Every language code ever set, each kept once, so that a code handed out by
+// msgLangSet stays valid for the life of the library.
+const wchar_t* internedCode(const wchar_t* code) {
+    static std::set<std::wstring> codes;
+    return codes.insert(code).first->c_str();
+}
+
+const wchar_t*& currentLang() {
+    static const wchar_t* lang = internedCode(L"DEU");
     return lang;
 }
 
@@ -120,8 +128,8 @@ void msgStoreClear() {
 
 const wchar_t* msgLangSet(const wchar_t* lang) {
     if (lang && *lang && std::wstring(lang) != L"-1")
-        currentLang() = lang;
-    return currentLang().c_str();
+        currentLang() = internedCode(lang);
+    return currentLang();
 }
 
 } // namespace QOR

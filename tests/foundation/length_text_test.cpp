@@ -116,6 +116,11 @@ TEST(LengthText, FailsWhenTheTextDoesNotFit) {
     EXPECT_EQ(rtos(1e16, 3, 0), L"<false>");
     EXPECT_EQ(rtos(1e16, 4, 0), L"<false>");
     EXPECT_EQ(rtos(1e12, 5, 16), L"<false>");
+    // At most 10^15 steps of the precision.
+    EXPECT_EQ(rtos(1e15, 5, 0), L"1000000000000000");
+    EXPECT_EQ(rtos(1e15 + 1, 5, 0), L"<false>");
+    EXPECT_EQ(rtos(1e11, 3, 4), L"8333333333'-4.0000\"");
+    EXPECT_EQ(rtos(1e11 + 1, 3, 4), L"<false>");
 }
 
 TEST(LengthText, FailsOnNonFiniteValuesUnknownFormatsAndNullBuffer) {
@@ -245,6 +250,16 @@ TEST(LengthText, RoundTripOverSeededValuesFormatsAndPrecisions) {
         }
     }
     EXPECT_EQ(checked, 3000 * 5 * 11 * 2);
+}
+
+// Found by fuzzing: at 3.3e11 inches and 4 decimals the feet and inches read
+// back summed to a value that, scaled again, rounded to the next step.
+TEST(LengthText, LargeEngineeringValueNeedsNoMoreStepsThanDoublesHold) {
+    const double v = qorAtoF(L"1-99999999990999/299");
+    EXPECT_EQ(rtos(v, 3, 4), L"<false>");
+    const std::wstring text = rtos(v / 10.0, 3, 4);
+    ASSERT_NE(text, L"<false>");
+    EXPECT_EQ(rtos(qorAtoF(text.c_str()), 3, 4), text);
 }
 
 TEST(LengthText, RoundTripOfLargeValuesAtHighPrecision) {

@@ -32,6 +32,16 @@ TEST_F(Messages, LanguageStartsGermanAndNullOnlyReads) {
     EXPECT_STREQ(QOR::msgLangSet(L""), L"ENG");
 }
 
+TEST_F(Messages, ReturnedCodeStaysValidAfterTheLanguageChanges) {
+    const wchar_t* german = QOR::msgLangSet(nullptr);
+    const wchar_t* italian = QOR::msgLangSet(L"ITA");
+    QOR::msgLangSet(L"a longer code that needs storage of its own");
+    QOR::msgLangSet(L"FRA");
+    EXPECT_STREQ(german, L"DEU");
+    EXPECT_STREQ(italian, L"ITA");
+    EXPECT_EQ(QOR::msgLangSet(L"ITA"), italian);
+}
+
 TEST_F(Messages, FileEntryGivesTheTextOfTheLanguage) {
     EXPECT_EQ(QOR::host::msgFileLoad(L"QOR_", kMessageFile), 6);
     EXPECT_EQ(qor_msg_get(L"QOR_", L"QOR_MFC_0002", L"Wert darf nicht größer sein als", L"ENG"),
