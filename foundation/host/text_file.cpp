@@ -1,0 +1,143 @@
+#include "foundation/host/text_file.h"
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+
+void appendCodePoint(std::wstring& out, unsigned long cp) {
+    if (sizeof(wchar_t) == 2 && cp > 0xFFFF) {
+        cp -= 0x10000;
+        out += static_cast<wchar_t>(0xD800 + (cp >> 10));
+        out += static_cast<wchar_t>(0xDC00 + (cp & 0x3FF));
+    } else {
+        out += static_cast<wchar_t>(cp);
+    }
+}
+
+#if !defined(_WIN32)
+// File names go to the C library as UTF-8.
+std::string toUtf8(const wchar_t* text) {
+    std::string out;
+    for (const wchar_t* p = text; *p; ++p) {
+        unsigned long cp = static_cast<unsigned long>(*p);
+        if (sizeof(wchar_t) == 2 && cp >= 0xD800 && cp <= 0xDBFF && p[1] >= 0xDC00 &&
+            p[1] <= 0xDFFF) {
+            cp = 0x10000 + ((cp - 0xD800) << 10) + (static_cast<unsigned long>(p[1]) - 0xDC00);
+            ++p;
+        }
+        if (cp < 0x80) {
+            out += static_cast<char>(cp);
+        } else if (cp < 0x800) {
+            out += static_cast<char>(0xC0 | (cp >> 6));
+            out += static_cast<char>(0x80 | (cp & 0x3F));
+        } else if (cp < 0x10000) {
+            out += static_cast<char>(0xE0 | (cp >> 12));
+            out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+            out += static_cast<char>(0x80 | (cp & 0x3F));
+        } else {
+            out += static_cast<char>(0xF0 | (cp >> 18));
+            out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
+            out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+            out += static_cast<char>(0x80 | (cp & 0x3F));
+        }
+    }
+    return out;
+}
+#endif
+
+std::FILE* openRead(const wchar_t* path) {
+    if (!path || !*path)
+        return nullptr;
+#if defined(_WIN32)
+    return _wfopen(path, L"rb");
+#else
+    return std::fopen(toUtf8(path).c_str(), "rb");
+#endif
+}
+
+} // namespace
+
+namespace QOR {
+namespace host {
+
+bool fileReadable(const wchar_t* path) {
+    std::FILE* f = openRead(path);
+    if (!f)
+        return false;
+    std::fclose(f);
+    return true;
+}
+
+CQorString fromUtf8(const char* bytes, std::size_t size) {
+    std::wstring out;
+    const unsigned char* s = reinterpret_cast<const unsigned char*>(bytes);
+    std::size_t i = 0;
+    while (i < size) {
+        const unsigned char c = s[i];
+        int extra = 0;
+        unsigned long cp = 0;
+        unsigned long least = 0;
+        if (c < 0x80) {
+            cp = c;
+        } else if ((c & 0xE0) == 0xC0) {
+            extra = 1, cp = c & 0x1F, least = 0x80;
+        } else if ((c & 0xF0) == 0xE0) {
+            extra = 2, cp = c & 0x0F, least = 0x800;
+        } else if ((c & 0xF8) == 0xF0) {
+            extra = 3, cp = c & 0x07, least = 0x10000;
+        } else {
+            out += static_cast<wchar_t>(0xFFFD);
+            ++i;
+            continue;
+        }
+        bool ok = true;
+        for (int k = 1; ok && k <= extra; ++k) {
+            if (i + static_cast<std::size_t>(k) >= size || (s[i + k] & 0xC0) != 0x80)
+                ok = false;
+            else
+                cp = (cp << 6) | (s[i + k] & 0x3F);
+        }
+        if (!ok || cp < least || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF)) {
+            out += static_cast<wchar_t>(0xFFFD);
+            ++i;
+            continue;
+        }
+        appendCodePoint(out, cp);
+        i += static_cast<std::size_t>(extra) + 1;
+    }
+    return CQorString(out.c_str());
+}
+
+bool textFileLines(const wchar_t* path, CQorArrayTempl<CQorString>& lines) {
+    std::FILE* f = openRead(path);
+    if (!f)
+        return false;
+    std::vector<char> bytes;
+    char buf[4096];
+    std::size_t got = 0;
+    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0)
+        bytes.insert(bytes.end(), buf, buf + got);
+    std::fclose(f);
+    std::size_t start = 0;
+    if (bytes.size() >= 3 && static_cast<unsigned char>(bytes[0]) == 0xEF &&
+        static_cast<unsigned char>(bytes[1]) == 0xBB &&
+        static_cast<unsigned char>(bytes[2]) == 0xBF)
+        start = 3;
+    lines.setLogicalLength(0);
+    while (start < bytes.size()) {
+        std::size_t end = start;
+        while (end < bytes.size() && bytes[end] != '\n')
+            ++end;
+        std::size_t stop = end;
+        if (stop > start && bytes[stop - 1] == '\r')
+            --stop;
+        lines.append(fromUtf8(bytes.data() + start, stop - start));
+        start = end + 1;
+    }
+    return true;
+}
+
+} // namespace host
+} // namespace QOR
