@@ -184,6 +184,52 @@ void arcArc(const Piece2& a, const Piece2& b, std::vector<Hit>& out) {
     }
 }
 
+// Parity of the crossings of the ray from (x, y) to +x with an arc. The arc is
+// cut at the top and bottom of its circle into pieces that are monotone in y and
+// lie in one half (left or right of the centre) each; every piece is tested as a
+// straight one would be, half-open in y, with the crossing x taken on the circle.
+// The ends of the whole arc are its exact vertex points, so the rule agrees with
+// the neighbouring pieces at the joints.
+bool rayCrossesArc(const Piece2& p, double x, double y) {
+    double cuts[4];
+    int n = 0;
+    cuts[n++] = 0.0;
+    for (double a : {0.5 * kPi, 1.5 * kPi}) {
+        const double rel = normAngle(p.sw > 0.0 ? a - p.a0 : p.a0 - a);
+        const double t = rel / std::fabs(p.sw);
+        if (t > 0.0 && t < 1.0)
+            cuts[n++] = t;
+    }
+    if (n == 3 && cuts[2] < cuts[1])
+        std::swap(cuts[1], cuts[2]);
+    cuts[n++] = 1.0;
+    bool odd = false;
+    double xa = p.x0, ya = p.y0;
+    for (int k = 1; k < n; ++k) {
+        double xb, yb;
+        if (k == n - 1) {
+            xb = p.x1;
+            yb = p.y1;
+        } else {
+            const double a = p.a0 + p.sw * cuts[k];
+            xb = p.cx + p.r * std::cos(a);
+            yb = p.cy + p.r * std::sin(a);
+        }
+        if ((ya > y) != (yb > y)) {
+            const double am = p.a0 + p.sw * 0.5 * (cuts[k - 1] + cuts[k]);
+            const double dy = y - p.cy;
+            const double dx = std::sqrt(std::max(0.0, p.r * p.r - dy * dy));
+            const double xc = std::cos(am) >= 0.0 ? p.cx + dx : p.cx - dx;
+            if (xc > x)
+                odd = !odd;
+        }
+        xa = xb;
+        ya = yb;
+    }
+    (void)xa;
+    return odd;
+}
+
 } // namespace
 
 bool Piece2::isDot() const {
@@ -228,12 +274,13 @@ Piece2 makePiece(const CQorVertex& v) {
     p.y1 = v.m_end.y;
     p.z1 = v.m_end.z;
     p.len = std::hypot(p.x1 - p.x0, p.y1 - p.y0);
+    p.bad = !std::isfinite(p.len);
     p.minx = std::min(p.x0, p.x1);
     p.maxx = std::max(p.x0, p.x1);
     p.miny = std::min(p.y0, p.y1);
     p.maxy = std::max(p.y0, p.y1);
     const double b = v.m_bulge;
-    if (b == 0.0 || !std::isfinite(b) || p.len <= kPointTol)
+    if (b == 0.0 || !std::isfinite(b) || p.len <= kPointTol || p.bad)
         return p;
     p.arc = true;
     // Centre to the left of the chord for a positive bulge below 1 (see CQorVertex).
@@ -244,6 +291,10 @@ Piece2 makePiece(const CQorVertex& v) {
     p.r = p.len * (1.0 + b * b) / (4.0 * std::fabs(b));
     p.a0 = std::atan2(p.y0 - p.cy, p.x0 - p.cx);
     p.sw = 4.0 * std::atan(b);
+    if (!std::isfinite(p.cx) || !std::isfinite(p.cy) || !std::isfinite(p.r)) {
+        p.bad = true;
+        return p;
+    }
     // The box takes the quadrant points that lie on the arc.
     for (int q = 0; q < 4; ++q) {
         double t;
@@ -260,6 +311,8 @@ Piece2 makePiece(const CQorVertex& v) {
 }
 
 void intersect(const Piece2& a, const Piece2& b, std::vector<Hit>& out) {
+    if (a.bad || b.bad)
+        return;
     if (a.minx > b.maxx + kPointTol || b.minx > a.maxx + kPointTol || a.miny > b.maxy + kPointTol ||
         b.miny > a.maxy + kPointTol)
         return;
@@ -282,22 +335,21 @@ int classify(const Contour2& c, double x, double y) {
         return -1;
     bool inside = false;
     for (const Piece2& p : c.pieces) {
+        if (p.bad)
+            continue;
         double t;
         if (x >= p.minx - kPointTol && x <= p.maxx + kPointTol && y >= p.miny - kPointTol &&
             y <= p.maxy + kPointTol && onPiece(p, x, y, t))
             return 0;
-        // Ray to +x against the chord, half-open in y.
+        if (p.arc) {
+            if (y >= p.miny && y <= p.maxy && x <= p.maxx && rayCrossesArc(p, x, y))
+                inside = !inside;
+            continue;
+        }
+        // Ray to +x, half-open in y, so a ray through a joint counts once.
         if ((p.y0 > y) != (p.y1 > y)) {
             const double xc = p.x0 + (y - p.y0) * (p.x1 - p.x0) / (p.y1 - p.y0);
             if (xc > x)
-                inside = !inside;
-        }
-        // The region between an arc and its chord is added to or cut from the
-        // polygon of chords; either way the point changes sides when inside it.
-        if (p.arc && std::hypot(x - p.cx, y - p.cy) < p.r) {
-            const double side = cross(p.x1 - p.x0, p.y1 - p.y0, x - p.x0, y - p.y0);
-            // A positive bulge puts the arc to the right of the chord.
-            if ((p.sw > 0.0 && side < 0.0) || (p.sw < 0.0 && side > 0.0))
                 inside = !inside;
         }
     }
@@ -326,8 +378,9 @@ std::vector<CQorVertex> PlaneFrame::bring(const CQorVertexArray& vl) const {
                 v.m_bulge = -v.m_bulge;
         return r;
     }
+    // toPlane is a rotation taking the normal to +z: the bulges stay.
     for (CQorVertex& v : r)
-        v.transformBy(toPlane.m, vl.normal(), CQorVector3d::kZAxis);
+        v.transformBy(toPlane.m);
     return r;
 }
 
@@ -344,15 +397,36 @@ std::vector<Piece2> makePieces(const std::vector<CQorVertex>& vertices) {
     return r;
 }
 
-Contour2 makeContour(const std::vector<CQorVertex>& vertices) {
+std::vector<Piece2> makePieces(const PlaneFrame& frame, const CQorVertexArray& vl) {
+    if (!frame.identity)
+        return makePieces(frame.bring(vl));
+    std::vector<Piece2> r;
+    r.reserve(size_t(vl.len()));
+    const bool flip = vl.normal().z < 0.0;
+    for (const CQorVertex& v : vl) {
+        if (flip) {
+            CQorVertex w(v);
+            w.m_bulge = -w.m_bulge;
+            r.push_back(makePiece(w));
+        } else {
+            r.push_back(makePiece(v));
+        }
+    }
+    return r;
+}
+
+namespace {
+
+Contour2 closeContour(std::vector<Piece2> pieces) {
     Contour2 c;
-    c.pieces = makePieces(vertices);
+    c.pieces = std::move(pieces);
     if (c.pieces.empty())
         return c;
     const Piece2& first = c.pieces.front();
     const Piece2 last = c.pieces.back();
     if (std::hypot(last.x1 - first.x0, last.y1 - first.y0) > kPointTol) {
-        CQorVertex closing(vertices.back().m_end, vertices.front().m_start, 0.0);
+        CQorVertex closing(CQorPoint3d(last.x1, last.y1, last.z1),
+                           CQorPoint3d(first.x0, first.y0, first.z0), 0.0);
         c.pieces.push_back(makePiece(closing));
     }
     c.minx = c.maxx = c.pieces.front().x0;
@@ -364,6 +438,16 @@ Contour2 makeContour(const std::vector<CQorVertex>& vertices) {
         c.maxy = std::max(c.maxy, p.maxy);
     }
     return c;
+}
+
+} // namespace
+
+Contour2 makeContour(const std::vector<CQorVertex>& vertices) {
+    return closeContour(makePieces(vertices));
+}
+
+Contour2 makeContour(const PlaneFrame& frame, const CQorVertexArray& vl) {
+    return closeContour(makePieces(frame, vl));
 }
 
 } // namespace detail

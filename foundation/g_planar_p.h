@@ -18,6 +18,7 @@ struct Piece2 {
     double x0 = 0.0, y0 = 0.0, z0 = 0.0;
     double x1 = 0.0, y1 = 0.0, z1 = 0.0;
     bool arc = false;
+    bool bad = false;                   // a coordinate is not finite: the piece meets nothing
     double cx = 0.0, cy = 0.0, r = 0.0; // circle of an arc
     double a0 = 0.0, sw = 0.0;          // start angle and signed sweep of an arc
     double len = 0.0;                   // chord length
@@ -65,6 +66,10 @@ struct PlaneFrame {
 };
 
 Contour2 makeContour(const std::vector<CQorVertex>& vertices);
+// The pieces of vl in the plane of the frame, without copying the vertices when
+// the frame is the identity.
+std::vector<Piece2> makePieces(const PlaneFrame& frame, const CQorVertexArray& vl);
+Contour2 makeContour(const PlaneFrame& frame, const CQorVertexArray& vl);
 std::vector<Piece2> makePieces(const std::vector<CQorVertex>& vertices);
 
 } // namespace detail

@@ -8,7 +8,6 @@
 using QOR::detail::ArcFrame;
 using QOR::detail::arcFrame;
 using QOR::detail::lerp;
-using QOR::detail::unitNormal;
 
 CQorVertex::CQorVertex(const CQorPoint3d& start, const CQorPoint3d& end, double bulge)
     : m_start(start), m_end(end), m_bulge(bulge) {}
@@ -23,35 +22,15 @@ CQorVertex& CQorVertex::set(const CQorPoint3d& start, const CQorPoint3d& end, do
 }
 
 CQorVertex& CQorVertex::transformBy(const double (*m)[4]) {
-    return transformBy(m, CQorVector3d::kZAxis, CQorVector3d::kZAxis);
-}
-
-CQorVertex& CQorVertex::transformBy(const double (*m)[4], const CQorVector3d& normalBefore,
-                                    const CQorVector3d& normalAfter) {
-    if (m_bulge == 0.0) {
-        m_start *= m;
-        m_end *= m;
-        return *this;
-    }
-    const CQorPoint3d middle = mid(normalBefore) * m;
     m_start *= m;
     m_end *= m;
-    const CQorVector3d chord = m_end - m_start;
-    const double len = chord.abs();
-    if (len <= QOR::kPointTol)
-        return *this;
-    CQorVector3d w = unitNormal(normalAfter) * chord;
-    if (w.abs() == 0.0)
-        return *this;
-    w.normalize();
-    // The middle of an arc of positive bulge lies bulge * len / 2 to the right of
-    // the chord, that is against n x chord.
-    const CQorPoint3d chordMid = lerp(m_start, m_end, 0.5);
-    const double b = -2.0 * (middle - chordMid).dot(w) / len;
-    if (std::fabs(std::fabs(b) - std::fabs(m_bulge)) <= 1.0e-9 * (1.0 + std::fabs(m_bulge)))
-        m_bulge = b < 0.0 ? -std::fabs(m_bulge) : std::fabs(m_bulge);
-    else if (b != 0.0)
-        m_bulge = b;
+    const double det = m[0][0] * (m[1][1] * m[2][2] - m[1][2] * m[2][1]) -
+                       m[0][1] * (m[1][0] * m[2][2] - m[1][2] * m[2][0]) +
+                       m[0][2] * (m[1][0] * m[2][1] - m[1][1] * m[2][0]);
+    // The sense of rotation about the transformed normal turns with the sign of
+    // the determinant: (M u) x (M v) . (M n) = det(M) for u x v = n.
+    if (det < 0.0)
+        m_bulge = -m_bulge;
     return *this;
 }
 

@@ -32,15 +32,16 @@ public:
 
     bool isArc() const { return m_bulge != 0.0; }
 
-    // Transformed in place; the piece stays the same curve: a matrix that mirrors
-    // (negative determinant, as the device matrices with y down) turns the sense of
-    // rotation about the normal, and the bulge changes sign. The normal before and
-    // after is +z; the overload takes both (the array passes its own normal and the
-    // transformed one). A matrix that scales unevenly makes an ellipse of an arc;
-    // the result is the arc through the images of start, middle and end.
+    // Transformed in place: both ends go through the matrix, and the bulge changes
+    // sign when the matrix mirrors (negative determinant of its 3 by 3 part, as the
+    // device matrices with y down). With the normal transformed as a direction, as
+    // CQorVertexArray::transformBy does, the arc then stays the same curve under
+    // every rotation, mirror and uniform scaling; the bulge does not depend on the
+    // normal, so a rotation into another plane (the inverse of setToPlaneToWorld
+    // of the array's normal) keeps it as it is. A matrix that scales unevenly makes
+    // an ellipse of an arc; the result is the arc of the same included angle
+    // between the images of the ends.
     CQorVertex& transformBy(const double (*m)[4]);
-    CQorVertex& transformBy(const double (*m)[4], const CQorVector3d& normalBefore,
-                            const CQorVector3d& normalAfter);
 
     // The point of the piece nearest to p: the foot of the perpendicular when it
     // falls on the piece, else the nearer end.

@@ -86,7 +86,7 @@ CQorVertexArray& CQorVertexArray::transformBy(const double (*m)[4]) {
         n = CQorVector3d::kZAxis;
     n.normalize();
     for (CQorVertex& v : *this)
-        v.transformBy(m, m_normal, n);
+        v.transformBy(m);
     m_normal = n;
     return *this;
 }
@@ -172,8 +172,8 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
     if (len() == 0 || other.len() == 0)
         return false;
     const PlaneFrame frame(m_normal);
-    const std::vector<Piece2> mine = makePieces(frame.bring(*this));
-    const std::vector<Piece2> theirs = makePieces(frame.bring(other));
+    const std::vector<Piece2> mine = makePieces(frame, *this);
+    const std::vector<Piece2> theirs = makePieces(frame, other);
     struct Found {
         int i;
         double t;
@@ -187,6 +187,8 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
             hits.clear();
             intersect(a, b, hits);
             for (const Hit& h : hits) {
+                if (!std::isfinite(h.x) || !std::isfinite(h.y))
+                    continue;
                 const double z = a.z0 + (a.z1 - a.z0) * h.ta;
                 found.push_back({i, h.ta, frame.back(h.x, h.y, z)});
                 if (mode == 0) {

@@ -17,6 +17,8 @@ public:
     CQorVertexArray(const CQorVertexArray& other) = default;
     explicit CQorVertexArray(const CQorVertex& v);
     CQorVertexArray& operator=(const CQorVertexArray& other) = default;
+    CQorVertexArray(CQorVertexArray&& other) noexcept = default;
+    CQorVertexArray& operator=(CQorVertexArray&& other) noexcept = default;
     ~CQorVertexArray() override;
 
     CQorVertexArray& append(const CQorVertex& v);
@@ -32,7 +34,8 @@ public:
     bool extents(CQorPoint3d& min, CQorPoint3d& max) const;
 
     // Transformation in place and as a copy. The normal transforms as a direction
-    // and is normalised; each arc stays the same curve (see CQorVertex::transformBy).
+    // and is normalised (a matrix that flattens it to nothing leaves +z); each arc
+    // stays the same curve (see CQorVertex::transformBy).
     CQorVertexArray& transformBy(const double (*m)[4]);
     CQorVertexArray getTransformedCopy(const double (*m)[4]) const;
 

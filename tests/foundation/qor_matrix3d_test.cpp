@@ -1,4 +1,5 @@
 #include "foundation/qor_matrix3d.h"
+#include "geom_test_util.h"
 
 #include <gtest/gtest.h>
 
@@ -44,7 +45,7 @@ TEST(Matrix, StorageIsRowMajorWithTranslationInColumnThree) {
 TEST(Matrix, ProductAppliesRightOperandFirst) {
     CQorMatrix3d t, r;
     t.setToTranslation(CQorVector3d(10.0, 0.0, 0.0));
-    r.setToRotation(M_PI / 2, CQorVector3d::kZAxis, CQorPoint3d::kOrigin);
+    r.setToRotation(kPi / 2, CQorVector3d::kZAxis, CQorPoint3d::kOrigin);
     // (t * r): rotate (1,0,0) to (0,1,0), then translate to (10,1,0).
     expectPointNear(CQorPoint3d(1, 0, 0) * (t * r).m, CQorPoint3d(10, 1, 0));
     // (r * t): translate to (11,0,0), then rotate to (0,11,0).
@@ -63,9 +64,9 @@ TEST(Matrix, ScalingAboutCentreKeepsCentre) {
 
 TEST(Matrix, RotationAboutAxisThroughCentre) {
     CQorMatrix3d r;
-    r.setToRotation(M_PI / 2, CQorVector3d::kZAxis, CQorPoint3d(1.0, 0.0, 0.0));
+    r.setToRotation(kPi / 2, CQorVector3d::kZAxis, CQorPoint3d(1.0, 0.0, 0.0));
     expectPointNear(CQorPoint3d(2, 0, 5) * r.m, CQorPoint3d(1, 1, 5));
-    r.setToRotation(2.0 * M_PI / 3.0, CQorVector3d(1, 1, 1), CQorPoint3d::kOrigin);
+    r.setToRotation(2.0 * kPi / 3.0, CQorVector3d(1, 1, 1), CQorPoint3d::kOrigin);
     // A third of a turn about the diagonal cycles the axes.
     expectPointNear(CQorPoint3d(1, 0, 0) * r.m, CQorPoint3d(0, 1, 0));
     r.setToRotation(1.0, CQorVector3d(), CQorPoint3d(3, 3, 3));

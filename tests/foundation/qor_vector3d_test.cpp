@@ -1,5 +1,6 @@
 #include "foundation/qor_matrix3d.h"
 #include "foundation/qor_vector3d.h"
+#include "geom_test_util.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +51,7 @@ TEST(Vector, VectorTimesMatrixIgnoresTranslation) {
     EXPECT_EQ(v.y, 2.0);
     EXPECT_EQ(v.z, 3.0);
     CQorMatrix3d r;
-    r.setToRotation(M_PI / 2, CQorVector3d::kZAxis, CQorPoint3d(5.0, 5.0, 0.0));
+    r.setToRotation(kPi / 2, CQorVector3d::kZAxis, CQorPoint3d(5.0, 5.0, 0.0));
     const CQorVector3d w = CQorVector3d::kXAxis * r.m;
     EXPECT_NEAR(w.x, 0.0, 1e-15);
     EXPECT_NEAR(w.y, 1.0, 1e-15);

@@ -2,6 +2,7 @@
 #include "foundation/qor_tolerance.h"
 #include "foundation/qor_vertex_array.h"
 #include "foundation/qor_vertex_array_ex.h"
+#include "geom_test_util.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,7 @@
 
 namespace {
 
-const double kTanPi8 = std::tan(M_PI / 8.0);
+const double kTanPi8 = std::tan(kPi / 8.0);
 
 void expectPointNear(const CQorPoint3d& a, const CQorPoint3d& b, double tol = 1e-12) {
     EXPECT_NEAR(a.x, b.x, tol) << "x";
@@ -200,7 +201,7 @@ TEST(VertexArray, PtsOfQuarterArcUsesChordTolerance) {
     ASSERT_EQ(p.len(), 7);
     for (int i = 0; i < p.len(); ++i) {
         EXPECT_NEAR(p[i].distanceTo(CQorPoint3d::kOrigin), 1.0, 1e-14);
-        expectPointNear(p[i], CQorPoint3d(std::cos(i * M_PI / 12), std::sin(i * M_PI / 12), 0));
+        expectPointNear(p[i], CQorPoint3d(std::cos(i * kPi / 12), std::sin(i * kPi / 12), 0));
     }
 }
 
@@ -242,7 +243,7 @@ TEST(VertexArray, TransformByMirrorKeepsArcsAndNormal) {
 TEST(VertexArray, TransformByRotationTurnsNormal) {
     CQorVertexArray vl = unitCircle();
     CQorMatrix3d r;
-    r.setToRotation(M_PI / 2, CQorVector3d::kXAxis, CQorPoint3d::kOrigin);
+    r.setToRotation(kPi / 2, CQorVector3d::kXAxis, CQorPoint3d::kOrigin);
     vl.transformBy(r.m);
     EXPECT_NEAR(vl.normal().y, -1.0, 1e-15);
     // The circle now lies in the xz plane.
@@ -347,4 +348,17 @@ TEST(VertexArray, CopyIsDeepAndKeepsNormal) {
     EXPECT_EQ(ex.len(), 2);
     EXPECT_EQ(ex.m_edge, -1);
     EXPECT_EQ(ex.normal().z, -1.0);
+}
+
+TEST(VertexArray, MoveTakesVerticesAndNormal) {
+    CQorVertexArray vl = unitCircle();
+    vl.normalSet(CQorVector3d(0, 0, -1));
+    CQorVertexArray moved(std::move(vl));
+    EXPECT_EQ(moved.len(), 2);
+    EXPECT_EQ(moved.normal().z, -1.0);
+    CQorArrayTempl<CQorVertexArray> list;
+    for (int i = 0; i < 20; ++i)
+        list.append(moved);
+    EXPECT_EQ(list[19].len(), 2);
+    EXPECT_EQ(list[19].normal().z, -1.0);
 }

@@ -1,6 +1,7 @@
 #include "foundation/qor_matrix3d.h"
 #include "foundation/qor_tolerance.h"
 #include "foundation/qor_vertex.h"
+#include "geom_test_util.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,7 @@
 
 namespace {
 
-const double kTanPi8 = std::tan(M_PI / 8.0);
+const double kTanPi8 = std::tan(kPi / 8.0);
 
 void expectPointNear(const CQorPoint3d& a, const CQorPoint3d& b, double tol = 1e-12) {
     EXPECT_NEAR(a.x, b.x, tol) << "x";
@@ -35,8 +36,8 @@ TEST(Vertex, PositiveBulgeOneIsCounterClockwiseHalfCircle) {
     ASSERT_TRUE(v.arcCentre(c, r));
     expectPointNear(c, CQorPoint3d(0, 0, 0));
     EXPECT_NEAR(r, 1.0, 1e-15);
-    EXPECT_NEAR(v.bulgLen(), M_PI, 1e-14);
-    EXPECT_NEAR(v.sweep(), M_PI, 1e-15);
+    EXPECT_NEAR(v.bulgLen(), kPi, 1e-14);
+    EXPECT_NEAR(v.sweep(), kPi, 1e-15);
     const CQorVertex cw(CQorPoint3d(1, 0, 0), CQorPoint3d(-1, 0, 0), -1.0);
     expectPointNear(cw.mid(), CQorPoint3d(0, -1, 0));
 }
@@ -44,8 +45,8 @@ TEST(Vertex, PositiveBulgeOneIsCounterClockwiseHalfCircle) {
 TEST(Vertex, QuarterArcMidAndLength) {
     const CQorVertex v(CQorPoint3d(1, 0, 0), CQorPoint3d(0, 1, 0), kTanPi8);
     expectPointNear(v.mid(), CQorPoint3d(std::sqrt(0.5), std::sqrt(0.5), 0));
-    EXPECT_NEAR(v.bulgLen(), M_PI / 2.0, 1e-14);
-    expectPointNear(v.pointAt(1.0 / 3.0), CQorPoint3d(std::cos(M_PI / 6), std::sin(M_PI / 6), 0));
+    EXPECT_NEAR(v.bulgLen(), kPi / 2.0, 1e-14);
+    expectPointNear(v.pointAt(1.0 / 3.0), CQorPoint3d(std::cos(kPi / 6), std::sin(kPi / 6), 0));
 }
 
 TEST(Vertex, ArcAboutNegativeNormalTurnsTheOtherWay) {
@@ -105,14 +106,35 @@ TEST(Vertex, TransformByRotationKeepsBulgeExactly) {
     expectPointNear(v.mid(), expectedMid);
 }
 
-TEST(Vertex, TransformByUnevenScaleGivesArcThroughImagePoints) {
+TEST(Vertex, TransformByUnevenScaleKeepsIncludedAngle) {
     CQorVertex v(CQorPoint3d(1, 0, 0), CQorPoint3d(-1, 0, 0), 1.0);
     CQorMatrix3d m;
-    m.setCoordSystem(CQorPoint3d(0, 0, 0), CQorVector3d(1, 0, 0), CQorVector3d(0, 0.5, 0),
+    m.setCoordSystem(CQorPoint3d(0, 0, 0), CQorVector3d(2, 0, 0), CQorVector3d(0, 0.5, 0),
                      CQorVector3d(0, 0, 1));
     v.transformBy(m.m);
-    expectPointNear(v.mid(), CQorPoint3d(0, 0.5, 0));
-    EXPECT_NEAR(v.m_bulge, 0.5, 1e-15);
+    EXPECT_EQ(v.m_bulge, 1.0);
+    expectPointNear(v.m_start, CQorPoint3d(2, 0, 0));
+    expectPointNear(v.mid(), CQorPoint3d(0, 2, 0));
+}
+
+TEST(Vertex, RotationIntoOwnPlaneKeepsBulgeAndLength) {
+    // An arc in a tilted plane, measured after bringing it into the xy plane.
+    CQorMatrix3d planeToWorld;
+    planeToWorld.setToPlaneToWorld(CQorVector3d(1, 1, 1));
+    const CQorMatrix3d worldToPlane = planeToWorld.inverse();
+    CQorVertex flat(CQorPoint3d(1, 0, 0), CQorPoint3d(0, 1, 0), kTanPi8);
+    CQorVertex tilted = flat;
+    tilted.transformBy(planeToWorld.m);
+    EXPECT_EQ(tilted.m_bulge, kTanPi8);
+    CQorVertex back = tilted;
+    back.transformBy(worldToPlane.m);
+    EXPECT_EQ(back.m_bulge, kTanPi8);
+    EXPECT_NEAR(back.bulgLen(), kPi / 2, 1e-14);
+    expectPointNear(back.m_start, flat.m_start, 1e-15);
+    expectPointNear(back.mid(), flat.mid(), 1e-15);
+    // The tilted arc's middle, taken about the plane's normal, is the image of
+    // the flat arc's middle.
+    expectPointNear(tilted.mid(planeToWorld.axis(2)), flat.mid() * planeToWorld.m, 1e-15);
 }
 
 TEST(Vertex, SubPieceOfArcIsArcOfSameCircle) {

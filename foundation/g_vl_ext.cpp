@@ -1,0 +1,64 @@
+// Boxes and orientation of vertex arrays.
+#include "foundation/qor_arc_p.h"
+#include "foundation/qor_geom_fcn.h"
+#include "foundation/qor_matrix3d.h"
+
+#include <cmath>
+
+namespace QOR {
+
+CQorPoint3dArray g_vl_extmax(const CQorVertexArray& vl, double angle) {
+    CQorPoint3dArray r;
+    CQorPoint3d lo, hi;
+    if (angle == 0.0) {
+        vl.extents(lo, hi);
+        r.append(lo).append(hi);
+        return r;
+    }
+    CQorMatrix3d toFrame, toWorld;
+    toFrame.setToRotation(-angle, CQorVector3d::kZAxis, CQorPoint3d::kOrigin);
+    toWorld.setToRotation(angle, CQorVector3d::kZAxis, CQorPoint3d::kOrigin);
+    vl.getTransformedCopy(toFrame.m).extents(lo, hi);
+    r.append(lo * toWorld.m).append(hi * toWorld.m);
+    return r;
+}
+
+CQorVertexArray g_vl_extrect(const CQorVertexArray& vl, double offset) {
+    CQorVertexArray r;
+    CQorPoint3d lo, hi;
+    if (!vl.extents(lo, hi))
+        return r;
+    const double x0 = lo.x - offset, y0 = lo.y - offset;
+    const double x1 = hi.x + offset, y1 = hi.y + offset;
+    const double z = lo.z;
+    const CQorPoint3d a(x0, y0, z), b(x1, y0, z), c(x1, y1, z), d(x0, y1, z);
+    r.append(CQorVertex(a, b)).append(CQorVertex(b, c)).append(CQorVertex(c, d));
+    r.append(CQorVertex(d, a));
+    return r;
+}
+
+bool g_vl_orient(const CQorVertexArray& vl, const CQorVector3d& axis) {
+    // Area vector: half the sum of start x end over the chords (closing the array
+    // if needed), plus for each arc the segment between arc and chord,
+    // r^2 / 2 (theta - sin theta) along the normal, signed like theta.
+    CQorVector3d area;
+    CQorVector3d n = vl.normal();
+    if (n.abs() == 0.0)
+        n = CQorVector3d::kZAxis;
+    n.normalize();
+    if (vl.len() == 0)
+        return false;
+    const CQorPoint3d ref = vl[0].m_start;
+    for (const CQorVertex& v : vl) {
+        area += (v.m_start - ref) * (v.m_end - ref) * 0.5;
+        CQorPoint3d c;
+        double r;
+        if (v.arcCentre(c, r, n)) {
+            const double th = v.sweep();
+            area += n * (0.5 * r * r * (th - std::sin(th)));
+        }
+    }
+    return area.dot(axis) > 0.0;
+}
+
+} // namespace QOR
