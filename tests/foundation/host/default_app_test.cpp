@@ -1,6 +1,7 @@
 #include "foundation/application.h"
 #include "foundation/data_tree.h"
 #include "foundation/host/default_app.h"
+#include "foundation/host/default_config.h"
 
 #include <gtest/gtest.h>
 
@@ -156,4 +157,18 @@ TEST_F(DefaultApp, RegisteredLispFunctionIsCalledByName) {
 TEST_F(DefaultApp, ObjImageDrawsNothingYet) {
     CQorDataItem object(1), params(1);
     EXPECT_FALSE(qorAppPtr()->objImage(nullptr, &object, &params));
+}
+
+TEST_F(DefaultApp, DefaultConfigurationReadsAndGivesTheHostDefaults) {
+    CQorString error;
+    ASSERT_TRUE(cfgLoadDefaults(error)) << error.c_str();
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatDecimal);
+    EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x00FFFFFFul);
+    double pdSize = -1.0;
+    ASSERT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDSIZE"), nullptr);
+    EXPECT_TRUE(cfg_get(L"ORV_MENU\\COLOR\\PDSIZE")->get(pdSize, nullptr));
+    EXPECT_EQ(pdSize, 0.0);
+    unsigned long pdMode = 9;
+    EXPECT_TRUE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE")->get(pdMode, nullptr));
+    EXPECT_EQ(pdMode, 0ul);
 }
