@@ -98,3 +98,17 @@ TEST_F(Config, LoadTextReplacesTheStoreAndAFailedLoadKeepsIt) {
     EXPECT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE"), nullptr);
     EXPECT_EQ(cfg_get(L"X"), nullptr);
 }
+
+TEST_F(Config, TextOfAKeyWithIntegerSegmentsFindsWhatTheKeyWrote) {
+    const CQorDataKey key(5005, L"*HOLE*", 5005, L"BT", 5003, 21, 0);
+    write(key, 7);
+    ASSERT_NE(cfg_get(&key), nullptr);
+    EXPECT_EQ(cfg_get(static_cast<const wchar_t*>(key)), cfg_get(&key));
+    EXPECT_EQ(cfg_get(L"*HOLE*\\BT\\021"), nullptr);
+    // A string key of the same text is found first.
+    const CQorDataKey text(L"*HOLE*\\BT\\21");
+    write(text, 8);
+    int v = 0;
+    EXPECT_TRUE(cfg_get(L"*HOLE*\\BT\\21")->get(v, nullptr));
+    EXPECT_EQ(v, 8);
+}
