@@ -36,12 +36,12 @@ TEST_F(DefaultApp, QorAppPtrGivesTheDefaultWithoutAnInstalledOne) {
 }
 
 TEST_F(DefaultApp, LengthFormatComesFromTheConfiguration) {
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatDecimal);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatDecimal);
     const CQorDataKey key(L"_HOST\\LUNITS");
     dataItemSet(cfg_dir_make(L"_HOST"), key.next(), 4);
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatArchitectural);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatArchitectural);
     dataItemSet(cfg_dir_make(L"_HOST"), key.next(), 9);
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatDecimal);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatDecimal);
 }
 
 TEST_F(DefaultApp, BackgroundColourComesFromTheConfiguration) {
@@ -55,7 +55,7 @@ TEST_F(DefaultApp, ConfigurationFileSetsFormatAndBackground) {
     const char text[] = "\"_HOST\" {\n    \"LUNITS\" = 5\n    \"VIEW_BKCOLOR\" = 255\n}\n";
     CQorString error;
     ASSERT_TRUE(cfgMgrPtr()->loadText(text, sizeof text - 1, error)) << error.c_str();
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatFractional);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatFractional);
     EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x000000FFul);
 }
 
@@ -162,7 +162,7 @@ TEST_F(DefaultApp, ObjImageDrawsNothingYet) {
 TEST_F(DefaultApp, DefaultConfigurationReadsAndGivesTheHostDefaults) {
     CQorString error;
     ASSERT_TRUE(cfgLoadDefaults(error)) << error.c_str();
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatDecimal);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatDecimal);
     EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x00FFFFFFul);
     double pdSize = -1.0;
     ASSERT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDSIZE"), nullptr);
