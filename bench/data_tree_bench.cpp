@@ -18,9 +18,9 @@ CQorDataItem makeTree(int dirs) {
             if (v == 0)
                 QOR::dataItemSetChain(&root, &k, QOR::mkResbuf(vl));
             else if (v % 2)
-                QOR::dataItemSet(&root, &k, v / 3.0);
+                dataItemSet(&root, &k, v / 3.0);
             else
-                QOR::dataItemSet(&root, &k, v);
+                dataItemSet(&root, &k, v);
         }
     }
     return root;

@@ -17,7 +17,7 @@ namespace QOR {
 // A value goes into the store this way:
 //     CQorDataDir* dir = QOR::cfgMgrPtr()->getCfgRoot(key);
 //     CQorDataItem* item = key.next() ? dir->makeDir(&firstSegment) : dir->makeItem(&key);
-//     QOR::dataItemSet(item, key.next(), value);
+//     dataItemSet(item, key.next(), value);
 // getCfgRoot hands out the directory that holds the roots, after it made sure the
 // root of the path exists as a directory, so that the first segment lands on it.
 class QOR_API CConfig : public CQorObj {
