@@ -8,6 +8,12 @@ if(QOR_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+# Fuzzing builds instrument every library for coverage; only the fuzz programs link
+# libFuzzer's own main.
+if(QOR_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # Warnings are errors in our own code (not in GoogleTest or other imported code).
 function(qor_warnings target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Werror)

@@ -58,11 +58,53 @@ CQorDataItem* cfg_get(const CQorDataKey* key) {
     return cfgMgrPtr()->top()->getItem(key);
 }
 
+// The number of a segment written as a canonical decimal ("21", "-3"; not "021").
+static bool decimalSegment(const wchar_t* text, int& number) {
+    if (!text || !*text)
+        return false;
+    const wchar_t* p = text;
+    const bool negative = *p == L'-';
+    if (negative)
+        ++p;
+    if (!*p || (*p == L'0' && p[1]) || (negative && *p == L'0'))
+        return false;
+    long long v = 0;
+    for (; *p; ++p) {
+        if (*p < L'0' || *p > L'9')
+            return false;
+        v = v * 10 + (*p - L'0');
+        if (v > 2147483648LL)
+            return false;
+    }
+    v = negative ? -v : v;
+    if (v > 2147483647LL)
+        return false;
+    number = static_cast<int>(v);
+    return true;
+}
+
+// The text of a key joins integer segments as decimals; a path given as text finds
+// an integer child by that decimal when no string child of the same text exists.
 CQorDataItem* cfg_get(const wchar_t* path) {
     if (!path)
         return nullptr;
     const CQorDataKey key(path);
-    return cfg_get(&key);
+    if (key.isEmpty() || key.isRootPath())
+        return nullptr;
+    CQorDataItem* item = cfgMgrPtr()->top();
+    for (const CQorDataKey* k = &key; k && item; k = k->next()) {
+        if (!item->isDir())
+            return nullptr;
+        const CQorDataKey segment = k->first();
+        CQorDataItem* child = item->getDir()->getItem(&segment);
+        int number = 0;
+        if (!child && decimalSegment(k->segmentText(), number)) {
+            const CQorDataKey numeric(5003, number, 0);
+            child = item->getDir()->getItem(&numeric);
+        }
+        item = child;
+    }
+    return item;
 }
 
 CQorDataItem* cfg_dir_make(const wchar_t* name) {

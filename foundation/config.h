@@ -17,7 +17,7 @@ namespace QOR {
 // A value goes into the store this way:
 //     CQorDataDir* dir = QOR::cfgMgrPtr()->getCfgRoot(key);
 //     CQorDataItem* item = key.next() ? dir->makeDir(&firstSegment) : dir->makeItem(&key);
-//     QOR::dataItemSet(item, key.next(), value);
+//     dataItemSet(item, key.next(), value);
 // getCfgRoot hands out the directory that holds the roots, after it made sure the
 // root of the path exists as a directory, so that the first segment lands on it.
 class QOR_API CConfig : public CQorObj {
@@ -48,7 +48,9 @@ private:
 // The configuration object of the process.
 QOR_API CConfig* cfgMgrPtr();
 // The item at the path, null if missing (a missing entry is told from a value by
-// this null).
+// this null). In a path given as text, a segment that is a decimal number also
+// finds an integer key of that number when there is no string key of that text, so
+// the text of a key with integer segments reads what the key wrote.
 QOR_API CQorDataItem* cfg_get(const CQorDataKey* key);
 QOR_API CQorDataItem* cfg_get(const wchar_t* path);
 // Makes the root directory of that name (a root that holds a value becomes a

@@ -232,15 +232,13 @@ resbuf* CQorDataItem::mkLisp() const {
     return head ? head : QOR::rbNew(QOR::kRtNil);
 }
 
-namespace QOR {
-
 bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key, double (*out)[4]) {
     if (!item)
         return false;
     const CQorDataItem* at = key ? item->getItem(key) : item;
     if (!at || at->isDir())
         return false;
-    return rbReadMatrix(at->data(), out);
+    return QOR::rbReadMatrix(at->data(), out);
 }
 
 bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
@@ -252,6 +250,8 @@ bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
                  CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& out) {
     return item && readAt(item, key, out);
 }
+
+namespace QOR {
 
 bool dataItemSetChain(CQorDataItem* item, const CQorDataKey* key, resbuf* chain) {
     if (!item) {
@@ -274,20 +274,20 @@ bool dataItemSetChain(CQorDataItem* item, const CQorDataKey* key, resbuf* chain)
     return true;
 }
 
+} // namespace QOR
+
 bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, int value) {
-    return dataItemSetChain(item, key, mkResbuf(value));
+    return QOR::dataItemSetChain(item, key, QOR::mkResbuf(value));
 }
 
 bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, double value) {
-    return dataItemSetChain(item, key, mkResbuf(value));
+    return QOR::dataItemSetChain(item, key, QOR::mkResbuf(value));
 }
 
 bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, const CQorString& value) {
-    return dataItemSetChain(item, key, mkResbuf(value));
+    return QOR::dataItemSetChain(item, key, QOR::mkResbuf(value));
 }
 
 bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, const double (*value)[4]) {
-    return dataItemSetChain(item, key, mkResbuf(value));
+    return QOR::dataItemSetChain(item, key, QOR::mkResbuf(value));
 }
-
-} // namespace QOR

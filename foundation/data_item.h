@@ -109,9 +109,8 @@ private:
     CQorDataItem* m_parent = nullptr;
 };
 
-namespace QOR {
-// Reads of the data tree for the types that have no get(): see data_item.cpp's
-// conversions above. False for a null item, with `out` unchanged.
+// Reads of the data tree for the types that have no get(): see the conversions
+// above. False for a null item, with `out` unchanged. (Global, like the item.)
 QOR_API bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key, double (*out)[4]);
 QOR_API bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key,
                          CQorArrayTempl<CQorVertexArray>& out);
@@ -125,6 +124,7 @@ QOR_API bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, double valu
 QOR_API bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, const CQorString& value);
 QOR_API bool dataItemSet(CQorDataItem* item, const CQorDataKey* key, const double (*value)[4]);
 
+namespace QOR {
 // Writes a chain at the key the way every typed write of the tree goes: with a key
 // that is not null and not empty, a chain that exists and is not nil (5019) is
 // stored in a new item at the key (directories built on the way); otherwise the

@@ -315,8 +315,11 @@ private:
             const char* q = m_p;
             while (q < m_end && *q != ')' && *q != '\n' && q - m_p < 24)
                 ++q;
-            if (q < m_end && *q == ')')
+            if (q < m_end && *q == ')') {
                 m_p = q + 1;
+                while (!atEnd() && !isDelimiter(*m_p))
+                    ++m_p;
+            }
         }
         return std::string(start, m_p);
     }

@@ -452,3 +452,30 @@ Contour2 makeContour(const PlaneFrame& frame, const CQorVertexArray& vl) {
 
 } // namespace detail
 } // namespace QOR
+
+namespace QOR {
+namespace detail {
+
+CQorVector3d areaVector(const CQorVertexArray& vl) {
+    CQorVector3d area;
+    if (vl.len() == 0)
+        return area;
+    CQorVector3d n = vl.normal();
+    if (n.abs() == 0.0)
+        n = CQorVector3d::kZAxis;
+    n.normalize();
+    const CQorPoint3d ref = vl[0].m_start;
+    for (const CQorVertex& v : vl) {
+        area += (v.m_start - ref) * (v.m_end - ref) * 0.5;
+        CQorPoint3d c;
+        double r;
+        if (v.arcCentre(c, r, n)) {
+            const double th = v.sweep();
+            area += n * (0.5 * r * r * (th - std::sin(th)));
+        }
+    }
+    return area;
+}
+
+} // namespace detail
+} // namespace QOR

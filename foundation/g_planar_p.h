@@ -34,6 +34,12 @@ struct Piece2 {
 
 Piece2 makePiece(const CQorVertex& v);
 
+// The area vector of a contour (closed by a chord if open) about its own normal:
+// half the sum of start x end over the chords, plus for each arc the segment
+// between arc and chord, r^2 / 2 (theta - sin theta) along the normal, signed like
+// theta. Its length is the area; its direction tells the sense of turning.
+CQorVector3d areaVector(const CQorVertexArray& vl);
+
 // One crossing: fractions along both pieces and the point.
 struct Hit {
     double ta, tb, x, y;

@@ -1,4 +1,5 @@
 // Boxes and orientation of vertex arrays.
+#include "foundation/g_planar_p.h"
 #include "foundation/qor_arc_p.h"
 #include "foundation/qor_geom_fcn.h"
 #include "foundation/qor_matrix3d.h"
@@ -38,27 +39,9 @@ CQorVertexArray g_vl_extrect(const CQorVertexArray& vl, double offset) {
 }
 
 bool g_vl_orient(const CQorVertexArray& vl, const CQorVector3d& axis) {
-    // Area vector: half the sum of start x end over the chords (closing the array
-    // if needed), plus for each arc the segment between arc and chord,
-    // r^2 / 2 (theta - sin theta) along the normal, signed like theta.
-    CQorVector3d area;
-    CQorVector3d n = vl.normal();
-    if (n.abs() == 0.0)
-        n = CQorVector3d::kZAxis;
-    n.normalize();
     if (vl.len() == 0)
         return false;
-    const CQorPoint3d ref = vl[0].m_start;
-    for (const CQorVertex& v : vl) {
-        area += (v.m_start - ref) * (v.m_end - ref) * 0.5;
-        CQorPoint3d c;
-        double r;
-        if (v.arcCentre(c, r, n)) {
-            const double th = v.sweep();
-            area += n * (0.5 * r * r * (th - std::sin(th)));
-        }
-    }
-    return area.dot(axis) > 0.0;
+    return detail::areaVector(vl).dot(axis) > 0.0;
 }
 
 } // namespace QOR

@@ -1,4 +1,5 @@
 // Sorting contours into regions of outer contours and holes.
+#include "foundation/g_planar_p.h"
 #include "foundation/qor_geom_fcn.h"
 #include "foundation/qor_tolerance.h"
 
@@ -11,24 +12,7 @@ namespace {
 
 // Absolute area of a closed contour about its own normal, arcs included.
 double areaOf(const CQorVertexArray& vl) {
-    if (vl.len() == 0)
-        return 0.0;
-    CQorVector3d n = vl.normal();
-    if (n.abs() == 0.0)
-        n = CQorVector3d::kZAxis;
-    n.normalize();
-    CQorVector3d a;
-    const CQorPoint3d ref = vl[0].m_start;
-    for (const CQorVertex& v : vl) {
-        a += (v.m_start - ref) * (v.m_end - ref) * 0.5;
-        CQorPoint3d c;
-        double r;
-        if (v.arcCentre(c, r, n)) {
-            const double th = v.sweep();
-            a += n * (0.5 * r * r * (th - std::sin(th)));
-        }
-    }
-    return std::fabs(a.dot(n));
+    return detail::areaVector(vl).abs();
 }
 
 // Whether contour a lies inside contour b: the first point of a that is not on b

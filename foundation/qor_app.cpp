@@ -5,7 +5,7 @@
 CQorApp::~CQorApp() = default;
 
 Qor::lFormat CQorApp::lFormatGet() {
-    return Qor::lFormatDecimal;
+    return Qor::formatDecimal;
 }
 
 unsigned long CQorApp::viewBkColorGet() {

@@ -2,14 +2,16 @@
 #pragma once
 
 namespace Qor {
-// -1 stands for the application's current format where an operation accepts it.
+// The texts of each format are described in foundation/length_text.h. -1 and 0 are
+// not formats; callers give them their own meaning (the application's current
+// format, nothing).
 enum lFormat : int {
-    lFormatCurrent = -1,
-    lFormatNone = 0,
-    lFormatScientific = 1,
-    lFormatDecimal = 2,
-    lFormatEngineering = 3,
-    lFormatArchitectural = 4,
-    lFormatFractional = 5,
+    formatCurrent = -1,
+    formatNone = 0,
+    formatScientific = 1,
+    formatDecimal = 2,
+    formatEngineering = 3,
+    formatArchitectural = 4,
+    formatFractional = 5,
 };
 } // namespace Qor

@@ -2,6 +2,8 @@
 // conversions.
 #pragma once
 
+#include "foundation/qor_lformat.h"
+
 #include "foundation/qor_array_templ.h"
 #include "foundation/qor_string.h"
 
@@ -39,18 +41,7 @@ enum lUnit : int {
     unitLast = unitUSSurveyMiles
 };
 
-// A length format, numbered as AutoCAD's LUNITS. The texts of each are described
-// in foundation/length_text.h. -1 and 0 are not formats; callers give them their
-// own meaning (the application's format, nothing).
-enum lFormat : int {
-    formatCurrent = -1,
-    formatNone = 0,
-    formatScientific = 1,
-    formatDecimal = 2,
-    formatEngineering = 3,
-    formatArchitectural = 4,
-    formatFractional = 5
-};
+// The length format Qor::lFormat is in foundation/qor_lformat.h.
 
 } // namespace Qor
 

@@ -18,7 +18,7 @@ Qor::lFormat CQorDefaultApp::lFormatGet() {
     const CQorDataItem* item = cfg_get(L"_HOST\\LUNITS");
     if (item && item->get(format, nullptr) && format >= 1 && format <= 5)
         return static_cast<Qor::lFormat>(format);
-    return Qor::lFormatDecimal;
+    return Qor::formatDecimal;
 }
 
 unsigned long CQorDefaultApp::viewBkColorGet() {

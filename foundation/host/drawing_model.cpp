@@ -4,6 +4,8 @@
 #include "foundation/data_text_format.h"
 #include "foundation/dta_file_pointer.h"
 
+#include <string>
+
 namespace QOR {
 
 CDrawingModel::CDrawingModel() = default;
@@ -84,6 +86,15 @@ bool CDrawingModel::loadText(const char* text, std::size_t size, CQorString& err
     m_entities.swap(fresh);
     m_next = next;
     return true;
+}
+
+bool CDrawingModel::loadFile(const wchar_t* fileName, CQorString& error) {
+    std::string bytes;
+    if (!readFileBytes(fileName, bytes)) {
+        error = L"cannot read the file";
+        return false;
+    }
+    return loadText(bytes.data(), bytes.size(), error);
 }
 
 static CQorDataItem* resolveEntity(const CAdsName& name) {

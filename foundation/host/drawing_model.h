@@ -37,6 +37,7 @@ public:
     // (one entry per line as the format has it). On failure nothing changes and
     // `error` says why.
     bool loadText(const char* text, std::size_t size, CQorString& error);
+    bool loadFile(const wchar_t* fileName, CQorString& error);
 
 private:
     struct Entity {

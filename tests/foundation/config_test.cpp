@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <string>
+
 using namespace QOR;
 
 namespace {
@@ -97,4 +100,36 @@ TEST_F(Config, LoadTextReplacesTheStoreAndAFailedLoadKeepsIt) {
     EXPECT_FALSE(cfgMgrPtr()->loadText(bad, sizeof bad - 1, error));
     EXPECT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE"), nullptr);
     EXPECT_EQ(cfg_get(L"X"), nullptr);
+}
+
+TEST_F(Config, TextOfAKeyWithIntegerSegmentsFindsWhatTheKeyWrote) {
+    const CQorDataKey key(5005, L"*HOLE*", 5005, L"BT", 5003, 21, 0);
+    write(key, 7);
+    ASSERT_NE(cfg_get(&key), nullptr);
+    EXPECT_EQ(cfg_get(static_cast<const wchar_t*>(key)), cfg_get(&key));
+    EXPECT_EQ(cfg_get(L"*HOLE*\\BT\\021"), nullptr);
+    // A string key of the same text is found first.
+    const CQorDataKey text(L"*HOLE*\\BT\\21");
+    write(text, 8);
+    int v = 0;
+    EXPECT_TRUE(cfg_get(L"*HOLE*\\BT\\21")->get(v, nullptr));
+    EXPECT_EQ(v, 8);
+}
+
+TEST_F(Config, SavedStoreLoadsBackTheSame) {
+    const CQorDataKey a(L"ORV_MENU\\COLOR\\PDSIZE"), b(L"*HOLE*\\BT");
+    write(a, 0.1);
+    write(b, CQorString(L"\u00e4\u00f6\u00fc"));
+    const std::wstring file =
+        (std::filesystem::temp_directory_path() / "qor_config_test.qdt").wstring();
+    ASSERT_TRUE(cfgMgrPtr()->save(file.c_str()));
+    const std::string before = dataTextWrite(*cfgMgrPtr()->top());
+    cfgMgrPtr()->clear();
+    CQorString error;
+    ASSERT_TRUE(cfgMgrPtr()->load(file.c_str(), error)) << error.c_str();
+    EXPECT_EQ(dataTextWrite(*cfgMgrPtr()->top()), before);
+    double d = 0;
+    EXPECT_TRUE(cfg_get(&a)->get(d, nullptr));
+    EXPECT_EQ(d, 0.1);
+    std::filesystem::remove(std::filesystem::path(file));
 }

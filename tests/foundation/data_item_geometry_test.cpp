@@ -236,3 +236,67 @@ TEST(DataTextGeometry, TreeOfEveryTypeRoundTripsThroughText) {
         EXPECT_TRUE(rbEqual(again.getItem(k)->data(), root.getItem(k)->data()));
     EXPECT_EQ(dataTextWrite(again), text);
 }
+
+TEST(DataItemGeometry, EmptyKeyRootReadsEveryTypeFromTheRoot) {
+    const CQorDataKey rootKey(L"");
+    CQorDataItem item;
+    // Each type stored as the root's own value and read back through the root key.
+    item.setData(rbLong(1), false);
+    bool b = false;
+    EXPECT_TRUE(item.get(b, &rootKey));
+    EXPECT_TRUE(b);
+    int i = 0;
+    EXPECT_TRUE(item.get(i, &rootKey));
+    EXPECT_EQ(i, 1);
+    unsigned long ul = 0;
+    EXPECT_TRUE(item.get(ul, &rootKey));
+    EXPECT_EQ(ul, 1ul);
+    item.setData(rbReal(0.5), false);
+    double d = 0;
+    EXPECT_TRUE(item.get(d, &rootKey));
+    EXPECT_EQ(d, 0.5);
+    item.setData(rbString(L"s"), false);
+    CQorString s;
+    EXPECT_TRUE(item.get(s, &rootKey));
+    EXPECT_EQ(s, L"s");
+    item.setData(mkResbuf(CQorPoint3d(1, 2, 3)), false);
+    CQorPoint3d p;
+    EXPECT_TRUE(item.get(p, &rootKey));
+    EXPECT_EQ(p.y, 2.0);
+    CQorPoint3dArray pa;
+    pa.append(p);
+    item.setData(mkResbuf(pa), false);
+    CQorPoint3dArray paBack;
+    EXPECT_TRUE(item.get(paBack, &rootKey));
+    EXPECT_EQ(paBack.len(), 1);
+    CQorArrayTempl<int> ai;
+    ai.append(4);
+    item.setData(mkResbuf(ai), false);
+    CQorArrayTempl<int> aiBack;
+    EXPECT_TRUE(item.get(aiBack, &rootKey));
+    EXPECT_EQ(aiBack[0], 4);
+    CQorArrayTempl<CQorString> as;
+    as.append(L"x");
+    item.setData(mkResbuf(as), false);
+    CQorArrayTempl<CQorString> asBack;
+    EXPECT_TRUE(item.get(asBack, &rootKey));
+    EXPECT_EQ(asBack[0], L"x");
+    CQorMatrix3d m;
+    m.m[1][3] = 2.0;
+    item.setData(mkResbuf(m), false);
+    double md[4][4] = {};
+    EXPECT_TRUE(dataItemGet(&item, &rootKey, md));
+    EXPECT_EQ(md[1][3], 2.0);
+    CQorArrayTempl<CQorVertexArray> region;
+    region.append(sampleVl());
+    item.setData(mkResbuf(region), false);
+    CQorArrayTempl<CQorVertexArray> regionBack;
+    EXPECT_TRUE(dataItemGet(&item, &rootKey, regionBack));
+    EXPECT_EQ(regionBack.len(), 1);
+    CQorArrayTempl<CQorArrayTempl<CQorVertexArray>> regions;
+    regions.append(region);
+    item.setData(mkResbuf(regions), false);
+    CQorArrayTempl<CQorArrayTempl<CQorVertexArray>> regionsBack;
+    EXPECT_TRUE(dataItemGet(&item, &rootKey, regionsBack));
+    EXPECT_EQ(regionsBack.len(), 1);
+}

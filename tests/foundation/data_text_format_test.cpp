@@ -241,3 +241,16 @@ TEST(DataText, MissingFileFailsAndKeepsTheTree) {
     EXPECT_EQ(error, L"cannot read the file");
     EXPECT_NE(root.getItem(&k), nullptr);
 }
+
+TEST(DataText, NanAngleWithSuffixRoundTrips) {
+    // Found by fuzzing: "nana" reads as a NaN angle, written as "nan(0x...)a".
+    CQorDataItem root(1);
+    CQorString error;
+    ASSERT_TRUE(readText("= nana\n", root, error)) << error.c_str();
+    EXPECT_EQ(root.valueType(), 5004);
+    const std::string text = dataTextWrite(root);
+    CQorDataItem again(1);
+    ASSERT_TRUE(readText(text, again, error)) << error.c_str() << "\n" << text;
+    EXPECT_TRUE(rbEqual(root.data(), again.data()));
+    EXPECT_EQ(dataTextWrite(again), text);
+}

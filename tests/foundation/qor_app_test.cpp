@@ -9,7 +9,7 @@
 namespace {
 class HostApp : public CQorApp {
 public:
-    Qor::lFormat lFormatGet() override { return Qor::lFormatEngineering; }
+    Qor::lFormat lFormatGet() override { return Qor::formatEngineering; }
     unsigned long viewBkColorGet() override { return 0x00123456ul; }
     int lispCall(const wchar_t*, resbuf*, QOR::CSmartResbuf& result) override {
         result.reset(QOR::rbShort(1));
@@ -22,7 +22,7 @@ TEST(QorApp, InstalledApplicationReplacesTheDefaultUntilRemoved) {
     HostApp host;
     EXPECT_EQ(qorAppSet(&host), nullptr);
     EXPECT_EQ(qorAppPtr(), &host);
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatEngineering);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatEngineering);
     EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x00123456ul);
     QOR::CSmartResbuf result;
     EXPECT_EQ(qorAppPtr()->lispCall(L"orv_hole_dial", nullptr, result), QOR::kRtNorm);

@@ -9,7 +9,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CQorDataItem root(1);
     const CQorDataKey keep(L"KEEP");
-    QOR::dataItemSet(&root, &keep, 1);
+    dataItemSet(&root, &keep, 1);
     CQorString error;
     const char* text = reinterpret_cast<const char*>(data);
     if (!QOR::dataTextRead(text, size, root, error)) {

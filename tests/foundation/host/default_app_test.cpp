@@ -1,6 +1,7 @@
 #include "foundation/application.h"
 #include "foundation/data_tree.h"
 #include "foundation/host/default_app.h"
+#include "foundation/host/default_config.h"
 
 #include <gtest/gtest.h>
 
@@ -35,12 +36,12 @@ TEST_F(DefaultApp, QorAppPtrGivesTheDefaultWithoutAnInstalledOne) {
 }
 
 TEST_F(DefaultApp, LengthFormatComesFromTheConfiguration) {
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatDecimal);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatDecimal);
     const CQorDataKey key(L"_HOST\\LUNITS");
     dataItemSet(cfg_dir_make(L"_HOST"), key.next(), 4);
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatArchitectural);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatArchitectural);
     dataItemSet(cfg_dir_make(L"_HOST"), key.next(), 9);
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatDecimal);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatDecimal);
 }
 
 TEST_F(DefaultApp, BackgroundColourComesFromTheConfiguration) {
@@ -54,7 +55,7 @@ TEST_F(DefaultApp, ConfigurationFileSetsFormatAndBackground) {
     const char text[] = "\"_HOST\" {\n    \"LUNITS\" = 5\n    \"VIEW_BKCOLOR\" = 255\n}\n";
     CQorString error;
     ASSERT_TRUE(cfgMgrPtr()->loadText(text, sizeof text - 1, error)) << error.c_str();
-    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::lFormatFractional);
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatFractional);
     EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x000000FFul);
 }
 
@@ -156,4 +157,18 @@ TEST_F(DefaultApp, RegisteredLispFunctionIsCalledByName) {
 TEST_F(DefaultApp, ObjImageDrawsNothingYet) {
     CQorDataItem object(1), params(1);
     EXPECT_FALSE(qorAppPtr()->objImage(nullptr, &object, &params));
+}
+
+TEST_F(DefaultApp, DefaultConfigurationReadsAndGivesTheHostDefaults) {
+    CQorString error;
+    ASSERT_TRUE(cfgLoadDefaults(error)) << error.c_str();
+    EXPECT_EQ(qorAppPtr()->lFormatGet(), Qor::formatDecimal);
+    EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x00FFFFFFul);
+    double pdSize = -1.0;
+    ASSERT_NE(cfg_get(L"ORV_MENU\\COLOR\\PDSIZE"), nullptr);
+    EXPECT_TRUE(cfg_get(L"ORV_MENU\\COLOR\\PDSIZE")->get(pdSize, nullptr));
+    EXPECT_EQ(pdSize, 0.0);
+    unsigned long pdMode = 9;
+    EXPECT_TRUE(cfg_get(L"ORV_MENU\\COLOR\\PDMODE")->get(pdMode, nullptr));
+    EXPECT_EQ(pdMode, 0ul);
 }
