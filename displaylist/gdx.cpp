@@ -47,7 +47,7 @@ CQorGDX::CQorGDX() {
         CQorColor color;
         if (dir) {
             const CQorDataKey key(entry.name);
-            QOR::dataItemGet(dir, &key, color);
+            dataItemGet(dir, &key, color);
         }
         ColorTabSet(entry.mode, color);
     }

@@ -75,7 +75,7 @@ int createGdxInMap(CQorDataItem* item) {
         const CQorDataKey extKey(L"EXTVIEW");
         item->get(corners, &extKey);
         const CQorDataKey mtxKey(L"MTX");
-        QOR::dataItemGet(item, &mtxKey, static_cast<double(*)[4]>(proj));
+        dataItemGet(item, &mtxKey, static_cast<double(*)[4]>(proj));
     }
     const int key = gdxMapKeyNew();
     CQorGDX fresh(background, proj, static_cast<double>(pdSize), static_cast<unsigned long>(pdMode),
@@ -92,7 +92,7 @@ int createGdxInMap(CQorDataItem* item) {
         if (cfg && cfg->get(index, nullptr))
             color.setColorIndex(static_cast<short>(index));
         else if ((cfg = QOR::cfg_get(kColorKeys[i])) != nullptr)
-            QOR::dataItemGet(cfg, nullptr, color);
+            dataItemGet(cfg, nullptr, color);
         if (i < 5)
             gdx->ColorTabSet(i + 1, color);
         else

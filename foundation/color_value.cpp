@@ -50,13 +50,13 @@ bool rbRead(const resbuf* chain, CQorColor& out) {
     return true;
 }
 
+} // namespace QOR
+
 bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key, CQorColor& out) {
     if (!item)
         return false;
     const CQorDataItem* at = key ? item->getItem(key) : item;
     if (!at || at->isDir())
         return false;
-    return rbRead(at->data(), out);
+    return QOR::rbRead(at->data(), out);
 }
-
-} // namespace QOR

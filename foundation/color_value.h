@@ -16,7 +16,7 @@ QOR_API resbuf* mkResbuf(const CQorColor& color);
 // index of -1 gives the colour by its value.
 QOR_API bool rbRead(const resbuf* chain, CQorColor& out);
 
+} // namespace QOR
+
 // The colour at the key below item (null key: the item itself).
 QOR_API bool dataItemGet(const CQorDataItem* item, const CQorDataKey* key, CQorColor& out);
-
-} // namespace QOR
