@@ -29,8 +29,18 @@ unsigned long CQorDefaultApp::viewBkColorGet() {
     return colour & 0x00FFFFFFul;
 }
 
-bool CQorDefaultApp::objImage(CQorGDX*, CQorDataItem*, CQorDataItem*) {
-    return false;
+namespace {
+CQorDefaultApp::ObjImageFn s_objImage = nullptr;
+} // namespace
+
+CQorDefaultApp::ObjImageFn CQorDefaultApp::objectImageSet(ObjImageFn fn) {
+    const ObjImageFn before = s_objImage;
+    s_objImage = fn;
+    return before;
+}
+
+bool CQorDefaultApp::objImage(CQorGDX* gdx, CQorDataItem* object, CQorDataItem* params) {
+    return s_objImage ? s_objImage(gdx, object, params) : false;
 }
 
 bool CQorDefaultApp::hatchPatternGet(const wchar_t* name,

@@ -18,13 +18,17 @@ namespace QOR {
 //  - entityOfKind: the first entity of the kind in drawingModelPtr();
 //  - lispCall: the host functions registered by name with lispFunctionSet; any
 //    other name answers -5001 (RTERROR) with an empty result;
-//  - objImage: the display list does not exist in this build, so nothing is drawn
-//    and the result is false.
+//  - objImage: draws through the object drawing function that the display list
+//    side installs with objectImageSet (the library installs images/
+//    host_object_image's at load); without one nothing is drawn and the result is
+//    false. The foundation cannot draw itself: documents live in a layer above it.
 class QOR_API CQorDefaultApp : public CQorApp {
 public:
     // A host function: reads the argument chain (which stays the caller's), puts its
     // answer into `result` and returns a status, 5100 on success.
     using LispFn = int (*)(resbuf* arguments, CSmartResbuf& result);
+    // Draws an object of the default host's model into a document.
+    using ObjImageFn = bool (*)(CQorGDX* gdx, CQorDataItem* object, CQorDataItem* params);
 
     CQorDefaultApp();
     ~CQorDefaultApp() override;
@@ -40,6 +44,9 @@ public:
     // Registers the host function of a name (exact, case-sensitive); null removes
     // it. Returns the function registered before, or null.
     LispFn lispFunctionSet(const wchar_t* name, LispFn fn);
+
+    // Installs the function objImage draws with (null: none); returns the one before.
+    static ObjImageFn objectImageSet(ObjImageFn fn);
     // Adds the patterns of a .pat file; the count of pattern headers read, -1 when
     // the file cannot be read. Rejected lines go to `rejected` when given.
     int patternFileAdd(const wchar_t* fileName, CQorArrayTempl<CQorString>* rejected = nullptr);
