@@ -73,9 +73,9 @@ class QOR_API CQorDisplayItem : public CQorObj {
 public:
     CQorDisplayItem() = default;
     CQorDisplayItem(const CQorDisplayItem&) = default;
-    CQorDisplayItem(CQorDisplayItem&&) = default;
+    CQorDisplayItem(CQorDisplayItem&&) noexcept = default;
     CQorDisplayItem& operator=(const CQorDisplayItem&) = default;
-    CQorDisplayItem& operator=(CQorDisplayItem&&) = default;
+    CQorDisplayItem& operator=(CQorDisplayItem&&) noexcept = default;
     ~CQorDisplayItem() override;
 
     // The colour mode held in bits 8 to 11 of the flag word.

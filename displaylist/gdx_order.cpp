@@ -43,11 +43,13 @@ void CQorGDX::displListSort() {
         ascending = order[k - 1] < order[k];
     if (ascending)
         return;
+    // Each item moves once into its place; nobody sees the list in between, so
+    // moving gives the same list as copying would.
     CQorArrayTempl<CQorDisplayItem> sorted;
     sorted.allocate(lenGet());
     for (int i : order)
-        sorted.append(m_displayList[i]);
-    m_displayList = sorted;
+        sorted.append(std::move(m_displayList[i]));
+    m_displayList = std::move(sorted);
 }
 
 int CQorGDX::imageItemGet(const CQorPoint3d& p) {

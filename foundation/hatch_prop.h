@@ -14,6 +14,8 @@ public:
     CHatchProp(const wchar_t* name, double angle, double scale, bool cross);
     CHatchProp(const CHatchProp& other) = default;
     CHatchProp& operator=(const CHatchProp& other) = default;
+    CHatchProp(CHatchProp&& other) noexcept = default;
+    CHatchProp& operator=(CHatchProp&& other) noexcept = default;
     ~CHatchProp() override;
 
     bool operator==(const CHatchProp& other) const;

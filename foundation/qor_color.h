@@ -16,6 +16,8 @@ public:
     explicit CQorColor(short index);
     CQorColor(const CQorColor& other) = default;
     CQorColor& operator=(const CQorColor& other) = default;
+    CQorColor(CQorColor&& other) noexcept = default;
+    CQorColor& operator=(CQorColor&& other) noexcept = default;
     ~CQorColor() override;
 
     // The index, 0 to 255, or -1 when the colour has none.

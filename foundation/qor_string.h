@@ -15,6 +15,8 @@ public:
     CQorString(const CQorString& other) = default;
     CQorString(const wchar_t* text);
     CQorString& operator=(const CQorString& other) = default;
+    CQorString(CQorString&& other) noexcept = default;
+    CQorString& operator=(CQorString&& other) noexcept = default;
     CQorString& operator=(const wchar_t* text);
     ~CQorString() override;
 

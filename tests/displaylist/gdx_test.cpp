@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 namespace {
 
 void expectPoint(const CQorPoint3d& p, double x, double y, double z) {
@@ -402,4 +404,16 @@ TEST(Gdx, RebuildGivesARegionWithoutContoursOneEmptyContour) {
     gdx.geomGet(regions, 0);
     ASSERT_EQ(regions.len(), 1);
     EXPECT_EQ(regions[0].len(), 0);
+}
+
+TEST(Gdx, ItemsMoveWithoutThrowingSoGrowthDoesNotCopyThem) {
+    static_assert(std::is_nothrow_move_constructible<CQorDisplayItem>::value,
+                  "display items move without copying their contours");
+    static_assert(std::is_nothrow_move_constructible<CQorString>::value, "strings move");
+    CQorGDX gdx = plainDoc();
+    addRegion(gdx, {1}, 0, region(rect(0, 0, 1, 1)));
+    const CQorVertex* contour = gdx.getDisplayList()[0].regions[0].data();
+    for (int i = 0; i < 100; ++i)
+        addLine(gdx, {2}, 0, segment(0, 0, 1, 1));
+    EXPECT_EQ(gdx.getDisplayList()[0].regions[0].data(), contour);
 }
