@@ -218,7 +218,8 @@ namespace {
 
 // Formats one numeric conversion with the C library; conversion holds a complete,
 // portable conversion ("%-08.3f", "%lld").
-template <class V> void appendFormatted(std::wstring& out, const std::wstring& conversion, V value) {
+template <class V>
+void appendFormatted(std::wstring& out, const std::wstring& conversion, V value) {
     std::vector<wchar_t> buf(64);
     for (;;) {
         const int n = std::swprintf(buf.data(), buf.size(), conversion.c_str(), value);
