@@ -386,3 +386,19 @@ TEST(Hatch, OpenContourIsNotOrientedButStillCrossed) {
     EXPECT_TRUE(QOR::g_vl_orient(list[0], CQorVector3d::kZAxis));
     EXPECT_EQ(list[1][0].m_start.x, 0.0) << "the open contour keeps its direction";
 }
+
+TEST(Hatch, TurnedRowsCanMissARegionAwayFromTheOrigin) {
+    // The descents look for the region below the seed before the turn by the hatch
+    // angle; turned by 180 degrees, rows that rise in the family frame fall in the
+    // world, so the ascent walks away from a region above the origin until its
+    // budget is used up, and nothing is drawn.
+    CQorArrayTempl<QOR::HatchFamilyStats> stats;
+    const Rows rows = QOR::hatchRegion2(region({rect(0, 5, 10, 15)}), CQorMatrix3d(),
+                                        QOR::CHatchProp(L"_USER", kPi, 1.0, false), &stats);
+    EXPECT_EQ(rows.len(), 0);
+    ASSERT_EQ(stats.len(), 1);
+    EXPECT_TRUE(stats[0].budgetRanOut);
+    EXPECT_EQ(stats[0].ascentSteps, 3 * stats[0].limit);
+    // The same region hatched at angle 0 is found.
+    EXPECT_EQ(hatch(region({rect(0, 5, 10, 15)}), L"_USER", 0.0, 1.0, false).len(), 11);
+}
