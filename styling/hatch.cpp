@@ -17,6 +17,10 @@ constexpr double kUserRowDist = 1.0;
 // from the origin of a fine pattern costs no more than a near one.
 constexpr double kDescentWalk = 1.0e6;
 
+// Slack of the quick rejection of dashes far from a span, relative to the span's
+// length; far above the point tolerance, so it never rejects a dash that touches.
+constexpr double kRejectSlack = 1.0e-6;
+
 using Table = CQorArrayTempl<CQorArrayTempl<double>>;
 using Regions = CQorArrayTempl<CQorVertexArray>;
 
@@ -104,8 +108,18 @@ CQorVertexArray rowStrokes(const Regions& local, const CQorVertexArray& seed,
             kept.append(span);
             continue;
         }
+        // All dashes lie on the row: one that lies wholly before or after the span
+        // along it meets none of the tests below and is passed over cheaply.
+        const CQorVector3d u = span.m_end - span.m_start;
+        const double s0 = 0.0;
+        const double s1 = u.dot(u);
+        const double slack = kRejectSlack * (std::sqrt(s1) + 1.0);
         for (int k = 0; k < work.len(); ++k) {
             const CQorVertex& dash = work[k];
+            const double t0 = (dash.m_start - span.m_start).dot(u);
+            const double t1 = (dash.m_end - span.m_start).dot(u);
+            if ((t0 < s0 - slack && t1 < s0 - slack) || (t0 > s1 + slack && t1 > s1 + slack))
+                continue;
             if (dash.isPoint(span.m_start) && dash.isPoint(span.m_end)) {
                 const CQorVertexArray cut =
                     QOR::g_vl_cut(CQorVertexArray(dash), span.m_start, span.m_end);

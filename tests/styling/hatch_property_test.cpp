@@ -275,9 +275,9 @@ void runAll(const std::vector<Source>& sources, int regionsPerPattern, bool with
 } // namespace
 
 TEST_F(HatchProperty, RealPatternsOnConvexAndConcaveRegionsStayInsideAndKeepTheirRows) {
-    runAll(sourcesOf(m_app), 6, false, "no holes");
+    runAll(sourcesOf(m_app), 4, false, "no holes");
 }
 
 TEST_F(HatchProperty, RealPatternsOnRegionsWithHolesStayOutOfTheHoles) {
-    runAll(sourcesOf(m_app), 6, true, "holes");
+    runAll(sourcesOf(m_app), 4, true, "holes");
 }
