@@ -57,24 +57,45 @@ CQorArrayTempl<CQorVertexArray> punch(const CQorVertexArray& vl,
     const std::vector<Piece2> flat = detail::makePieces(frame, vl);
     std::vector<Hit> hits;
     std::vector<double> cuts;
+    std::vector<Contour2> band(region.size());
     for (int i = 0; i < vl.len(); ++i) {
         const CQorVertex& v = vl[i];
         const Piece2& a = flat[size_t(i)];
         if (i > 0 && v.m_start != vl[i - 1].m_end)
             flush();
         cuts.assign({0.0, 1.0});
-        if (!a.isDot()) {
-            for (const Contour2& c : region) {
-                if (c.empty() || a.minx > c.maxx + kPointTol || c.minx > a.maxx + kPointTol ||
-                    a.miny > c.maxy + kPointTol || c.miny > a.maxy + kPointTol)
-                    continue;
-                for (const Piece2& b : c.pieces) {
-                    hits.clear();
-                    detail::intersect(a, b, hits);
-                    for (const Hit& h : hits)
-                        if (h.ta > 0.0 && h.ta < 1.0)
-                            cuts.push_back(h.ta);
-                }
+        // Only contour pieces that reach into the height of this piece can cross
+        // it or be met by the ray (to +x) from a point of it; a point inside a
+        // contour always has contour pieces on its height. So the contours are
+        // cut down to those pieces once per vertex.
+        for (size_t c = 0; c < region.size(); ++c) {
+            const Contour2& whole = region[c];
+            Contour2& part = band[c];
+            part.pieces.clear();
+            if (whole.empty() || a.bad || a.miny > whole.maxy + kPointTol ||
+                whole.miny > a.maxy + kPointTol)
+                continue;
+            for (const Piece2& b : whole.pieces)
+                if (b.maxy >= a.miny - kPointTol && b.miny <= a.maxy + kPointTol)
+                    part.pieces.push_back(b);
+            if (part.pieces.empty())
+                continue;
+            part.minx = part.maxx = part.pieces.front().minx;
+            part.miny = part.maxy = part.pieces.front().miny;
+            for (const Piece2& b : part.pieces) {
+                part.minx = std::min(part.minx, b.minx);
+                part.maxx = std::max(part.maxx, b.maxx);
+                part.miny = std::min(part.miny, b.miny);
+                part.maxy = std::max(part.maxy, b.maxy);
+            }
+            if (a.isDot() || a.minx > part.maxx + kPointTol || part.minx > a.maxx + kPointTol)
+                continue;
+            for (const Piece2& b : part.pieces) {
+                hits.clear();
+                detail::intersect(a, b, hits);
+                for (const Hit& h : hits)
+                    if (h.ta > 0.0 && h.ta < 1.0)
+                        cuts.push_back(h.ta);
             }
         }
         std::sort(cuts.begin(), cuts.end());
@@ -92,7 +113,7 @@ CQorArrayTempl<CQorVertexArray> punch(const CQorVertexArray& vl,
             const double to = cuts[k];
             double x, y;
             a.at(0.5 * (from + to), x, y);
-            const bool in = classifyRegion(region, x, y) >= 0;
+            const bool in = classifyRegion(band, x, y) >= 0;
             if (in == inside)
                 cur.append(v.subPiece(from, to, vl.normal()));
             else

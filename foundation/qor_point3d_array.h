@@ -10,6 +10,8 @@ public:
     CQorPoint3dArray() = default;
     CQorPoint3dArray(const CQorPoint3dArray& other) = default;
     CQorPoint3dArray& operator=(const CQorPoint3dArray& other) = default;
+    CQorPoint3dArray(CQorPoint3dArray&& other) noexcept = default;
+    CQorPoint3dArray& operator=(CQorPoint3dArray&& other) noexcept = default;
     ~CQorPoint3dArray() override;
 
     using CQorArrayTempl<CQorPoint3d>::indexOf;

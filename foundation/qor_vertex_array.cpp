@@ -173,7 +173,20 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
         return false;
     const PlaneFrame frame(m_normal);
     const std::vector<Piece2> mine = makePieces(frame, *this);
-    const std::vector<Piece2> theirs = makePieces(frame, other);
+    // Straight pieces of other outside the box of this array cannot cross it and
+    // are not built at all: a short row against a long contour stays cheap.
+    double x0 = mine.front().minx, x1 = mine.front().maxx;
+    double y0 = mine.front().miny, y1 = mine.front().maxy;
+    for (const Piece2& a : mine) {
+        x0 = std::min(x0, a.minx);
+        x1 = std::max(x1, a.maxx);
+        y0 = std::min(y0, a.miny);
+        y1 = std::max(y1, a.maxy);
+    }
+    x0 -= QOR::kPointTol;
+    x1 += QOR::kPointTol;
+    y0 -= QOR::kPointTol;
+    y1 += QOR::kPointTol;
     struct Found {
         int i;
         double t;
@@ -181,9 +194,11 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
     };
     std::vector<Found> found;
     std::vector<Hit> hits;
-    for (int i = 0; i < int(mine.size()); ++i) {
-        const Piece2& a = mine[size_t(i)];
-        for (const Piece2& b : theirs) {
+    // Crosses one piece of other with every piece of this; true when mode 0 has
+    // its answer.
+    auto cross = [&](const Piece2& b) {
+        for (int i = 0; i < int(mine.size()); ++i) {
+            const Piece2& a = mine[size_t(i)];
             hits.clear();
             intersect(a, b, hits);
             for (const Hit& h : hits) {
@@ -191,12 +206,39 @@ bool CQorVertexArray::intersectWith(CQorPoint3dArray& out, const CQorVertexArray
                     continue;
                 const double z = a.z0 + (a.z1 - a.z0) * h.ta;
                 found.push_back({i, h.ta, frame.back(h.x, h.y, z)});
-                if (mode == 0) {
-                    out.append(found.back().p);
+                if (mode == 0)
                     return true;
-                }
             }
         }
+        return false;
+    };
+    bool done = false;
+    if (frame.identity) {
+        const bool flip = other.normal().z < 0.0;
+        for (int k = 0; k < other.len() && !done; ++k) {
+            const CQorVertex& v = other[k];
+            if (v.m_bulge == 0.0 &&
+                ((v.m_start.x < x0 && v.m_end.x < x0) || (v.m_start.x > x1 && v.m_end.x > x1) ||
+                 (v.m_start.y < y0 && v.m_end.y < y0) || (v.m_start.y > y1 && v.m_end.y > y1)))
+                continue;
+            if (flip) {
+                CQorVertex w(v);
+                w.m_bulge = -w.m_bulge;
+                done = cross(makePiece(w));
+            } else {
+                done = cross(makePiece(v));
+            }
+        }
+    } else {
+        for (const Piece2& b : makePieces(frame, other))
+            if ((done = cross(b)))
+                break;
+    }
+    if (mode == 0) {
+        if (found.empty())
+            return false;
+        out.append(found.front().p);
+        return true;
     }
     std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
         return a.i != b.i ? a.i < b.i : a.t < b.t;

@@ -17,6 +17,8 @@ public:
     CQorVertexArray(const CQorVertexArray& other) = default;
     explicit CQorVertexArray(const CQorVertex& v);
     CQorVertexArray& operator=(const CQorVertexArray& other) = default;
+    CQorVertexArray(CQorVertexArray&& other) noexcept = default;
+    CQorVertexArray& operator=(CQorVertexArray&& other) noexcept = default;
     ~CQorVertexArray() override;
 
     CQorVertexArray& append(const CQorVertex& v);

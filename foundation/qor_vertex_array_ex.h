@@ -15,6 +15,8 @@ public:
     CQorVertexArrayEx(const CQorVertexArrayEx& other) = default;
     explicit CQorVertexArrayEx(const CQorVertexArray& vl) : CQorVertexArray(vl) {}
     CQorVertexArrayEx& operator=(const CQorVertexArrayEx& other) = default;
+    CQorVertexArrayEx(CQorVertexArrayEx&& other) noexcept = default;
+    CQorVertexArrayEx& operator=(CQorVertexArrayEx&& other) noexcept = default;
     ~CQorVertexArrayEx() override;
 
     int m_edge = -1;

@@ -94,3 +94,18 @@ TEST(Measure, TinyPatternOnLongLineStops) {
     EXPECT_GT(runs.len(), 0);
     EXPECT_LE(runs.len(), 2000000);
 }
+
+TEST(Measure, PatternThatFitsTheLengthEndsOnItsLastDash) {
+    CQorArrayTempl<double> p;
+    p.append(0.5).append(-0.6).append(0.5);
+    const auto runs = QOR::g_vl_measure(line(0, 0, 1.6, 0), 1.0, CQorLineParm(p));
+    ASSERT_EQ(runs.len(), 2);
+    EXPECT_NEAR(runs[1][0].m_start.x, 1.1, 1e-12);
+    EXPECT_EQ(runs[1][0].m_end.x, 1.6);
+    // The wrapped-around first dash would start at the very end: nothing drawn.
+    CQorArrayTempl<double> q;
+    q.append(1.0).append(-1.0);
+    const auto four = QOR::g_vl_measure(line(0, 0, 4, 0), 1.0, CQorLineParm(q));
+    ASSERT_EQ(four.len(), 2);
+    EXPECT_NEAR(four[1][0].m_end.x, 3.0, 1e-12);
+}

@@ -359,3 +359,27 @@ TEST(PtInside, ArcContourAgreesWithFineChordPolygonProperty) {
     }
     EXPECT_GT(compared, 5000);
 }
+
+TEST(Punch, GridContoursWithDegeneraciesStillCoverTheRowProperty) {
+    // Integer coordinates make rows run along edges, through vertices and over
+    // repeated points; the pieces must still add up to the row.
+    std::mt19937 rng(5150u);
+    std::uniform_int_distribution<int> g(0, 6);
+    for (int n = 0; n < 400; ++n) {
+        CQorPoint3dArray pts;
+        for (int i = 0; i < 3 + n % 8; ++i)
+            pts.append(CQorPoint3d(g(rng), g(rng), 0));
+        CQorVertexArray contour;
+        contour.fromPoints(pts, true);
+        if (n % 3 == 0 && contour.len() > 0)
+            contour[0].m_bulge = 0.5;
+        const double y = g(rng);
+        const CQorVertexArray r = line(-1, y, 8, y);
+        CQorArrayTempl<CQorVertexArray> reg;
+        reg.append(contour);
+        const double in = totalLength(QOR::g_vl_punch_reg(r, reg, true));
+        const double out = totalLength(QOR::g_vl_punch_reg(r, reg, false));
+        EXPECT_NEAR(in + out, 9.0, 1e-9) << "case " << n;
+        EXPECT_NEAR(totalLength(QOR::g_vl_punch(r, contour, true)), in, 1e-9) << "case " << n;
+    }
+}

@@ -144,3 +144,19 @@ TEST(Matrix, PlaneToWorldTakesZToNormalAndInverseFlattens) {
     EXPECT_NEAR(m.axis(2).z, -1.0, 1e-15);
     EXPECT_GT(m.det3(), 0.0);
 }
+
+TEST(Matrix, ConvertsToTheValuesThatTransformingOperationsTake) {
+    CQorMatrix3d t;
+    t.setToTranslation(CQorVector3d(1.0, 2.0, 3.0));
+    const CQorMatrix3d& c = t;
+    expectPointNear(CQorPoint3d(0, 0, 0) * c, CQorPoint3d(1, 2, 3));
+    const CQorVector3d v = CQorVector3d(1, 0, 0) * c;
+    EXPECT_EQ(v.x, 1.0);
+    EXPECT_EQ(v.y, 0.0);
+    CQorPoint3d p(1, 1, 1);
+    p *= t;
+    expectPointNear(p, CQorPoint3d(2, 3, 4));
+    double(&values)[4][4] = t;
+    values[0][3] = 5.0;
+    EXPECT_EQ(t.translation().x, 5.0);
+}

@@ -349,3 +349,16 @@ TEST(VertexArray, CopyIsDeepAndKeepsNormal) {
     EXPECT_EQ(ex.m_edge, -1);
     EXPECT_EQ(ex.normal().z, -1.0);
 }
+
+TEST(VertexArray, MoveTakesVerticesAndNormal) {
+    CQorVertexArray vl = unitCircle();
+    vl.normalSet(CQorVector3d(0, 0, -1));
+    CQorVertexArray moved(std::move(vl));
+    EXPECT_EQ(moved.len(), 2);
+    EXPECT_EQ(moved.normal().z, -1.0);
+    CQorArrayTempl<CQorVertexArray> list;
+    for (int i = 0; i < 20; ++i)
+        list.append(moved);
+    EXPECT_EQ(list[19].len(), 2);
+    EXPECT_EQ(list[19].normal().z, -1.0);
+}
