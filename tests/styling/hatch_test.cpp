@@ -402,3 +402,28 @@ TEST(Hatch, TurnedRowsCanMissARegionAwayFromTheOrigin) {
     // The same region hatched at angle 0 is found.
     EXPECT_EQ(hatch(region({rect(0, 5, 10, 15)}), L"_USER", 0.0, 1.0, false).len(), 11);
 }
+
+TEST(Hatch, ClipIsOnePassAgainstTheFirstContourSoANarrowHoleCanBeCrossed) {
+    // Dashes 3 long with gaps of 1 from x = 0: the dash [4, 7] of the row y = 5
+    // reaches over the hole from x = 4.9 to 5.1. For the span from 10 to 5.1 it is
+    // broken at 5.1 and its half [4, 5.1] has its middle inside the region, so it
+    // is kept; the final clip only looks at the outer contour and keeps it whole.
+    PatternHost host;
+    host.add(L"LONG", {{0, 0, 0, 0, 1, 3, -1}});
+    const Rows reg = region({rect(0, 0, 10, 10), rect(4.9, 2, 5.1, 8)});
+    const Rows rows = hatch(reg, L"LONG", 0.0, 1.0, false);
+    bool crossed = false;
+    for (int r = 0; r < rows.len(); ++r) {
+        for (int i = 0; i < rows[r].len(); ++i) {
+            const CQorVertex& v = rows[r][i];
+            if (std::fabs(v.m_start.y - 5.0) < kEps && std::fabs(v.m_start.x - 4.0) < kEps &&
+                std::fabs(v.m_end.x - 5.1) < kEps)
+                crossed = true;
+        }
+    }
+    EXPECT_TRUE(crossed) << dump(rows);
+    // The row y = 1 below the hole has the same dash whole.
+    ASSERT_GT(rows.len(), 1);
+    ASSERT_EQ(rows[1].len(), 3) << dump(rows);
+    expectPiece(rows[1][1], 4, 1, 7, 1);
+}
