@@ -1,0 +1,13 @@
+#include "styling/dot_length.h"
+
+#include "foundation/units.h"
+
+namespace QOR {
+
+double styleDotLength() {
+    double len = kDotSizeMm;
+    acadUnitCv(kDotSizeMm, Qor::unitMillimeters, Qor::unitCurrent, len);
+    return len;
+}
+
+} // namespace QOR

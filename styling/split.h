@@ -1,0 +1,33 @@
+// Arcs to chords: the straight-stroke form of vertex arrays and regions.
+#pragma once
+
+#include "foundation/geometry.h"
+#include "foundation/qor_export.h"
+
+namespace QOR {
+
+// Chord tolerances by arc length: an arc shorter than kSplitLongArc is split so
+// that no chord is further than kSplitTolShort from it, a longer one (length
+// kSplitLongArc included) with kSplitTolLong. Units are those of the coordinates;
+// the tolerance does not follow any view or zoom.
+constexpr double kSplitLongArc = 4.0;
+constexpr double kSplitTolShort = 0.01;
+constexpr double kSplitTolLong = 0.05;
+
+// The chord tolerance for an arc of length len (measured in the arc's plane).
+QOR_API double splitTolerance(double len);
+
+} // namespace QOR
+
+// A new array in which every arc of vl (bulge not exactly 0.0) is replaced by
+// straight chords from its start to its end, in order. The arc is measured and
+// exploded in its own plane (the plane of vl's normal) and only the chords are
+// brought back; straight vertices are copied bit for bit, attribute included. The
+// result keeps vl's normal. An empty array gives an empty array.
+QOR_API CQorVertexArray qor_gdx_image_vl_split(const CQorVertexArray& vl);
+
+// qor_gdx_image_vl_split for each contour of a region list, in order: element i of
+// the result is the split form of regions[i] (an empty contour stays an empty
+// contour at its index). Each contour uses the plane of its own normal.
+QOR_API CQorArrayTempl<CQorVertexArray>
+qor_gdx_image_reg_split(const CQorArrayTempl<CQorVertexArray>& regions);
