@@ -3,6 +3,10 @@
 #include "foundation/units.h"
 #include "styling/dot_length.h"
 
+#include "styling_test_util.h"
+
+using styling_test::list;
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,15 +14,6 @@
 #include <string>
 
 namespace {
-
-// units.h and qor_app.h (through the shared test header) both define
-// Qor::lFormat, so this file keeps its own small helper.
-CQorArrayTempl<double> list(std::initializer_list<double> v) {
-    CQorArrayTempl<double> a;
-    for (double d : v)
-        a.append(d);
-    return a;
-}
 
 CQorVertexArray segment(double x0, double y0, double z0, double x1, double y1, double z1) {
     return CQorVertexArray(CQorVertex(CQorPoint3d(x0, y0, z0), CQorPoint3d(x1, y1, z1)));
