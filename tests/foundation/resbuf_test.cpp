@@ -20,8 +20,12 @@ TEST(Resbuf, CopyIsDeepAndEqual) {
     qorRelRb(b);
 }
 
-TEST(Resbuf, RelRbAcceptsNull) {
+TEST(Resbuf, RelRbAcceptsNullAndReleasesAWholeChain) {
     qorRelRb(nullptr);
+    // The sanitizer build reports a leak if any node of the chain stays behind.
+    resbuf* chain = rbAppend(rbAppend(rbLong(1), rbString(L"two")), rbReal(3.0));
+    ASSERT_EQ(rbLength(chain), 3);
+    qorRelRb(chain);
 }
 
 TEST(Resbuf, ToListEnclosesAChainThatIsNotOneList) {
