@@ -90,7 +90,7 @@ GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint
                 gmax = QOR::p_max(gmax, hi);
                 gmin = QOR::p_min(gmin, lo);
             }
-            out.append(region);
+            out.append(std::move(region));
         }
         advance += std::fabs(gmin.x - gmax.x) + kTxtLetterGap;
         h = std::max(h, gmax.y);
