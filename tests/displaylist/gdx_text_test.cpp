@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace {
 
 using Regions = CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>;
@@ -402,4 +404,17 @@ TEST_F(GdxTextHost, UnknownHostFunctionAddsNothing) {
     const CQorDataItem dir = textItem();
     EXPECT_FALSE(gdx.imageTxt(path({1}), 0, &dir, indexed(1), CQorMatrix3d(), 0.0, CQorPoint3d()));
     EXPECT_EQ(gdx.lenGet(), 0);
+}
+
+TEST_F(GdxText, LongTextIsShiftedWithoutPaddingEveryRegion) {
+    const int n = QOR::kTxtPadLimit + 100;
+    std::wstring text(static_cast<size_t>(n), L'a');
+    const Regions out = layout(text.c_str(), L"BR");
+    ASSERT_EQ(out.len(), n);
+    // advance 1.5 n, w = 1.5 n - 0.3: the last glyph ends at 0.3 - 0.5 = -0.2.
+    expectBox(out[n - 1][0], 1.5 * (n - 1) - (1.5 * n - 0.3), 0.0,
+              1.5 * (n - 1) + 1.0 - (1.5 * n - 0.3), 1.0);
+    expectBox(out[0][0], -(1.5 * n - 0.3), 0.0, 1.0 - (1.5 * n - 0.3), 1.0);
+    EXPECT_EQ(out[0].len(), 1);
+    EXPECT_EQ(out[n - 1].len(), 1);
 }
