@@ -5,6 +5,8 @@
 #include "foundation/qor_point3d_array.h"
 #include "foundation/qor_vector3d.h"
 
+class CQorDataItem;
+
 // An ordered list of display items plus what is needed to draw them: background,
 // default point style, a colour table, four view matrices and two extent boxes.
 // A value type: copies are deep and two documents never share anything.
@@ -119,6 +121,31 @@ public:
     // matrices.
     void clear();
 
+    // --- Text items (gdx_text.cpp). Glyph units: cap height 1.0; size, rotation and
+    // placement come from mtx. From a string: laid out with the installed glyph
+    // source (QOR::gdxGlyphSourceSet), aligned by align, at point; a null text or
+    // alignment counts as empty. From a data item: the regions the host answers to
+    // "qor_text_to_regl"; false, with nothing added, for a null item, one that is no
+    // directory, or no regions. Unless the flag has GDX_FLAG_NO_EXT or
+    // GDX_FLAG_FIXED_SIZE, the first contour of every region is folded into the
+    // extents; with GDX_FLAG_FIXED_SIZE the anchor is kept as one vertex.
+    void imageTxt(const CQorArrayTempl<int>& stack, unsigned long flag, const wchar_t* txt,
+                  const CQorColor& color, const CQorMatrix3d& mtx, const wchar_t* align,
+                  const CQorPoint3d& point, const CQorPoint3d& anchor);
+    bool imageTxt(const CQorArrayTempl<int>& stack, unsigned long flag, const CQorDataItem* item,
+                  const CQorColor& color, const CQorMatrix3d& mtx, double value,
+                  const CQorPoint3d& anchor);
+    // Change the text, alignment or insertion point of every item under the path
+    // (prefix), lay each out again and rebuild the extents. A null string gives false
+    // and changes nothing; otherwise true, also when nothing matched.
+    bool txtSet(const CQorArrayTempl<int>& stack, const wchar_t* txt);
+    bool txtAlignSet(const CQorArrayTempl<int>& stack, const wchar_t* align);
+    void txtPointSet(const CQorArrayTempl<int>& stack, CQorPoint3d point);
+    // The text, alignment and insertion point of item i (read rules as above).
+    const CQorString& txtGet(int i) const;
+    const CQorString& txtAlignGet(int i) const;
+    const CQorPoint3d& txtPointGet(int i) const;
+
     // --- Views and extents.
     const CQorMatrix3d& projMtxGet() const { return m_projMtx; }
     const CQorMatrix3d& viewMtxGet() const { return m_viewMtx; }
@@ -154,6 +181,8 @@ protected:
     void refresh_ext(const CQorPoint3d& p, const CQorMatrix3d& m);
     void refresh_ext(const CQorVertexArray& vl, const CQorMatrix3d& m);
     void refresh_ext();
+    // Lays item i out again from its text, alignment and insertion point.
+    void txtReglUpd(int i);
 
     CQorColor m_backColor;
     double m_pdSize = 0.0;

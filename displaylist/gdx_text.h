@@ -1,0 +1,56 @@
+// Text items of the display list: the glyph source, the layout and the bridge to
+// the host for text from a data item.
+#pragma once
+
+#include "foundation/qor_array_templ.h"
+#include "foundation/qor_export.h"
+#include "foundation/qor_point3d.h"
+#include "foundation/qor_vertex_array.h"
+
+class CQorDataItem;
+
+namespace QOR {
+
+// A glyph: a list of regions, each an outer contour followed by its holes, in glyph
+// units (cap height 1.0, baseline y = 0). Empty contours and regions may trail.
+using GlyphRegions = CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>;
+// Gives a copy of the glyph of a character, an empty list for none.
+using GlyphFn = GlyphRegions (*)(wchar_t c);
+
+// The display list sits below the font, so the font installs its lookup here when
+// the library loads (text/glyph_table.cpp). Null removes it; without a source
+// every character has no glyph. Returns the source installed before.
+QOR_API GlyphFn gdxGlyphSourceSet(GlyphFn fn);
+QOR_API GlyphFn gdxGlyphSourceGet();
+
+// Distance added to each glyph's ink width to get its advance, and taken off the
+// summed advance (once) to get the text width.
+constexpr double kTxtLetterGap = 0.5;
+constexpr double kTxtEndCorrection = 0.3;
+
+// Lays a text out in one line with the glyphs of `glyphs` (null: no glyphs): one entry
+// per glyph region (empty trailing regions included), every closed contour turned
+// counter-clockwise, moved by point plus the advance so far, then the whole text
+// shifted by the alignment. Alignments, matched exactly: "TL", "TC", "TR", "CL",
+// "CC", "CR", "BC", "BR"; anything else is "BL" (no shift). The height used by the
+// alignment is the highest y reached, insertion point included, never below 0.
+// Characters without a glyph take no room. Text items use the installed source. The shift reaches
+// contour c of region b for b and c below the number of regions n, as element access: a region with
+// fewer than n contours is padded with empty ones (up to kTxtPadLimit regions), and
+// contours with an index of n or more keep their place. Null strings count as
+// empty.
+QOR_API GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint3d& point,
+                               GlyphFn glyphs);
+// Above this many regions the shift no longer pads regions with empty contours, so
+// a long text cannot make a quadratic number of them.
+constexpr int kTxtPadLimit = 512;
+
+} // namespace QOR
+
+// Asks the host for the regions of a text held in a data item: the item as a lisp
+// list followed by value as a real (5001) go to the host function
+// "qor_text_to_regl". regl is emptied first and receives the answer when the host
+// returns 5100 with a list (5016) or nil (5019). True when regl has regions; false
+// for a null item.
+QOR_API bool qor_text_to_regl(const CQorDataItem* item,
+                              CQorArrayTempl<CQorArrayTempl<CQorVertexArray>>& regl, double value);
