@@ -10,7 +10,7 @@ class CQorDataItem;
 // the order of the codes. A child holds:
 //   "CODE"    int     filter bits: 0x1 basic forms (flat, square, round, tube),
 //                     0x2 extended forms (hollow section, angles, channel, I and
-//                     H beams, tee), 0x4 special forms (bent plate)
+//                     H beams, tee), 0x4 rarer forms (bent plate)
 //   "LABEL"   string  message key of its name ("QOR_OUTL_0010" ...), German
 //                     default text from qorOutlineText
 //   "TXTGEN"  int     text generation mode, 3

@@ -50,7 +50,7 @@ TEST(GMtxLocal, ArrayFormConvertsTheTranslation) {
     EXPECT_DOUBLE_EQ(out[1][3], 20.0);
     EXPECT_DOUBLE_EQ(out[2][3], 30.0);
     EXPECT_EQ(out[0][0], 1.0);
-    ASSERT_TRUE(QOR::g_mtx_local(&item, out, Qor::unitUnspecified, Qor::unitMillimeters));
+    ASSERT_TRUE(QOR::g_mtx_local(&item, out, static_cast<Qor::lUnit>(0), Qor::unitMillimeters));
     EXPECT_EQ(out[0][3], 1.0);
     EXPECT_FALSE(QOR::g_mtx_local(nullptr, out, Qor::unitCentimeters, Qor::unitMillimeters));
     EXPECT_EQ(out[0][3], 0.0);
