@@ -5,8 +5,12 @@
 //   placement       foundation/g_mtx_local.h
 //   solids          foundation/qor_solid.h (CQor_Solid), objModel below
 //   objects         objGen below
+//   sheets          foundation/fsheet.h
+//   bars            foundation/bar.h
 #pragma once
 
+#include "foundation/bar.h"
+#include "foundation/fsheet.h"
 #include "foundation/g_mtx_local.h"
 #include "foundation/g_outline.h"
 #include "foundation/outline_init.h"
