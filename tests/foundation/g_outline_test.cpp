@@ -4,6 +4,7 @@
 #include "geom_test_util.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
@@ -176,4 +177,27 @@ TEST(GOutline, ItemFormReadsCodeParametersBaseAndUnit) {
     dataItemSet(&item, &code, 99);
     EXPECT_FALSE(QOR::g_outline(vl, &item, Qor::unitMillimeters));
     EXPECT_EQ(vl.len(), 0);
+}
+
+TEST(GOutline, SeededRandomParametersGiveNothingOrAClosedPositiveContour) {
+    std::uint64_t seed = 0x9E3779B97F4A7C15ull;
+    auto next = [&seed]() {
+        seed ^= seed << 13;
+        seed ^= seed >> 7;
+        seed ^= seed << 17;
+        return static_cast<double>(seed % 100000) / 1000.0 - 10.0; // -10 to 90
+    };
+    int built = 0;
+    for (int round = 0; round < 2000; ++round)
+        for (int code : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 21}) {
+            const CQorVertexArray vl =
+                outline(code, {next(), next(), next(), next(), next(), next()});
+            if (vl.len() == 0)
+                continue;
+            ++built;
+            ASSERT_TRUE(vl.isClosed()) << code;
+            ASSERT_TRUE(vl.isContinuous()) << code;
+            ASSERT_GT(signedArea(vl), 0.0) << code;
+        }
+    EXPECT_GT(built, 1000); // many of them are real sections
 }
