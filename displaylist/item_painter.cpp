@@ -1,0 +1,335 @@
+#include "displaylist/item_painter.h"
+
+#include "displaylist/view_mtx.h"
+#include "foundation/qor_geom_fcn.h"
+#include "foundation/units.h"
+#include "styling/hatch.h"
+#include "styling/line_pattern.h"
+#include "styling/split.h"
+
+namespace QOR {
+
+namespace {
+
+constexpr unsigned long kWhite = 0xFFFFFFul;
+
+CQorMatrix3d translation(const CQorVector3d& v) {
+    CQorMatrix3d t;
+    t.setToTranslation(v);
+    return t;
+}
+
+bool isSolid(const CQorVertexArray& vl) {
+    return vl.isContinuous() || vl.isClosed();
+}
+
+std::vector<DevicePoint> truncated(const CQorPoint3dArray& pts) {
+    std::vector<DevicePoint> out;
+    out.reserve(static_cast<size_t>(pts.len()));
+    for (int k = 0; k < pts.len(); ++k)
+        out.push_back(DevicePoint{devTrunc(pts[k].x), devTrunc(pts[k].y)});
+    return out;
+}
+
+} // namespace
+
+CQorPaintPolicy CQorPaintPolicy::metafile() {
+    return CQorPaintPolicy();
+}
+
+CQorItemPainter::CQorItemPainter(CQorDrawSurface& surface, const CQorPaintPolicy& policy)
+    : m_surface(surface), m_policy(policy) {
+    acadUnitCv(kPaintDotLengthMm, Qor::unitMillimeters, Qor::unitCurrent, m_dotLength);
+    acadUnitCv(kPaintDotLimitMm, Qor::unitMillimeters, Qor::unitCurrent, m_dotLimit);
+}
+
+unsigned long CQorItemPainter::corrected(unsigned long c) const {
+    return (m_policy.whiteToBlack && c == kWhite) ? 0ul : c;
+}
+
+unsigned long CQorItemPainter::lineColor(const CQorGDX& gdx, int i) const {
+    return corrected(gdx.itemColorGet(i));
+}
+
+unsigned long CQorItemPainter::fillColor(const CQorGDX& gdx, int i) const {
+    const CQorDisplayItem& item = gdx.getDisplayList()[i];
+    if (item.colorMode() == 0 && item.fcolor.colorIndex() != 0)
+        return corrected(item.fcolor.oleColor());
+    return lineColor(gdx, i);
+}
+
+CQorArrayTempl<double> CQorItemPainter::workingPattern(const CQorArrayTempl<double>& lt,
+                                                       double ltscale, double dotLength) {
+    CQorArrayTempl<double> p;
+    const auto set = [&p](std::initializer_list<double> values) {
+        for (double v : values)
+            p.append(v);
+    };
+    if (lt.len() == 1 && lt[0] == 1.0) {
+        // solid
+    } else if (lt.len() == 3 && lt[0] == 1.0 && lt[1] == 0.0 && lt[2] == 0.0) {
+        // solid
+    } else if (lt.len() == 3 && lt[0] == 1.0 && lt[1] == 1.0 && lt[2] == 0.0) {
+        set({10.0, -4.0});
+    } else if (lt.len() == 3 && lt[0] == 1.0 && lt[1] == 1.0 && lt[2] == 1.0) {
+        set({11.0, -5.0, 0.0, -5.0});
+    } else if (lt.len() == 3 && lt[0] == 0.0 && lt[1] == 0.0 && lt[2] != 0.0) {
+        set({0.0, -4.0});
+    } else {
+        p = lt;
+    }
+    for (int k = 0; k < p.len(); ++k)
+        p[k] = p[k] != 0.0 ? p[k] * ltscale : dotLength;
+    return p;
+}
+
+CQorPaintMatrices CQorItemPainter::matrices(const CQorGDX& gdx, int height, int width) {
+    CQorPaintMatrices m;
+    CQorPoint3d lo, hi;
+    gdx.extMaxViewGet(lo, hi);
+    m.view = getViewMtx(lo, hi, height, width, kPaintMargin);
+    m.base = gdx.zoomMtxGet() * m.view * gdx.projMtxGet();
+    m.vd = gdx.viewDirectionMtxGet();
+    const CQorMatrix3d s =
+        getViewMtx(CQorPoint3d(0, 0, 0), CQorPoint3d(1, 1, 0), height, width, kPaintMargin);
+    CQorMatrix3d sc;
+    sc.setToScaling(s.axis(0).x, CQorPoint3d::kOrigin);
+    CQorMatrix3d flip;
+    const CQorVector3d t = m.view.translation();
+    flip.setCoordSystem(CQorPoint3d(t.x, t.y, t.z), CQorVector3d(1, 0, 0), CQorVector3d(0, -1, 0),
+                        CQorVector3d(0, 0, 1));
+    const CQorPoint3d p1 = CQorPoint3d::kOrigin * (gdx.zoomMtxGet() * m.view);
+    const CQorPoint3d p2 = CQorPoint3d::kOrigin * (flip * sc);
+    m.fixed = translation(p1 - p2) * flip * sc * gdx.projMtxGet();
+    return m;
+}
+
+CQorMatrix3d CQorItemPainter::itemMatrix(const CQorDisplayItem& item, const CQorPaintMatrices& m) {
+    if (!(item.flag & GDX_FLAG_FIXED_SIZE))
+        return m.base;
+    CQorPoint3d anchor = item.point;
+    if (item.type == GDX_PT || item.type == GDX_TXT)
+        anchor = item.vertices[0].m_start;
+    const CQorVector3d moved = CQorVector3d(anchor.x, anchor.y, anchor.z) * m.base;
+    return translation(moved) * m.fixed;
+}
+
+void CQorItemPainter::paint(CQorGDX& gdx, int height, int width) {
+    gdx.displListSort();
+    acadUnitCv(kPaintDotLengthMm, Qor::unitMillimeters, Qor::unitCurrent, m_dotLength);
+    acadUnitCv(kPaintDotLimitMm, Qor::unitMillimeters, Qor::unitCurrent, m_dotLimit);
+    const CQorPaintMatrices m = matrices(gdx, height, width);
+    gdx.viewMtxSet(m.view);
+    m_clipW = width;
+    m_clipH = height;
+    m_surface.clipRect(0, 0, width, height);
+    for (int i = 0; i < gdx.lenGet(); ++i) {
+        if (gdx.flagGet(i) & GDX_FLAG_HIDDEN)
+            continue;
+        drawItem(gdx, i, m);
+    }
+}
+
+void CQorItemPainter::drawItem(CQorGDX& gdx, int i, const CQorPaintMatrices& m) {
+    const CQorDisplayItem& item = gdx.getDisplayList()[i];
+    const unsigned long color = lineColor(gdx, i);
+    const CQorArrayTempl<double> pattern = workingPattern(item.linetype, item.ltscale, m_dotLength);
+    const CQorMatrix3d mm = itemMatrix(item, m);
+    m_surface.penSelect(static_cast<int>(item.thickn), color);
+    switch (item.type) {
+    case GDX_VL:
+        drawVl(item, mm, pattern, m);
+        break;
+    case GDX_PT:
+        drawPt(gdx, i, mm, color, m);
+        break;
+    case GDX_REG:
+        drawReg(gdx, i, mm, pattern, m);
+        break;
+    case GDX_TXT:
+        drawTxt(item, mm, color, gdx.backColorGet().oleColor(), m);
+        break;
+    default:
+        // Pictures are not drawn yet; unknown kinds draw nothing.
+        break;
+    }
+    m_surface.penFree();
+}
+
+void CQorItemPainter::stroke(const CQorVertexArray& contour, const CQorMatrix3d& d, bool dotTest) {
+    for (int k = 0; k < contour.len(); ++k) {
+        const CQorVertex& v = contour[k];
+        if (dotTest && v.m_start.distanceTo(v.m_end) < m_dotLimit) {
+            const CQorPoint3d p = v.m_start * d;
+            m_surface.moveTo(devTrunc(p.x), devTrunc(p.y));
+            m_surface.lineTo(devTrunc(p.x + 1.0), devTrunc(p.y));
+            continue;
+        }
+        CQorVertex copy = v;
+        copy.transformBy(d);
+        const CQorPoint3dArray pts = CQorVertexArray(copy).pts(true, kPaintChordTol);
+        for (int j = 0; j + 1 < pts.len(); ++j) {
+            m_surface.moveTo(devTrunc(pts[j].x), devTrunc(pts[j].y));
+            m_surface.lineTo(devTrunc(pts[j + 1].x), devTrunc(pts[j + 1].y));
+        }
+    }
+}
+
+void CQorItemPainter::outline(CQorVertexArray vl, const CQorMatrix3d& d,
+                              const CQorArrayTempl<double>& pattern, const CQorPaintMatrices& m) {
+    vl.transformBy(m.vd);
+    if (pattern.len() > 0)
+        qor_gdx_image_vl_measure(vl, pattern, 1);
+    const bool solid = isSolid(vl);
+    stroke(qor_gdx_image_vl_split(vl), d, m_policy.solidTest ? !solid : true);
+}
+
+void CQorItemPainter::drawVl(const CQorDisplayItem& item, const CQorMatrix3d& mm,
+                             const CQorArrayTempl<double>& pattern, const CQorPaintMatrices& m) {
+    outline(item.vertices, mm * item.mtx, pattern, m);
+}
+
+void CQorItemPainter::drawPt(const CQorGDX& gdx, int i, const CQorMatrix3d& mm, unsigned long color,
+                             const CQorPaintMatrices& m) {
+    const CQorDisplayItem& item = gdx.getDisplayList()[i];
+    const CQorPoint3d p = ((item.point * item.mtx) * m.vd) * mm;
+    const double x = p.x, y = p.y;
+    const unsigned long mode = gdx.pdModeGet(i);
+    const double size = gdx.pdSizeGet(i);
+    int px = 0;
+    if (size > 0.0)
+        px = devTrunc(size * (CQorVector3d::kXAxis * mm).abs());
+    else
+        px = devTrunc(size);
+    const int h = px >> 1; // arithmetic shift: -5 gives -3
+    m_surface.penSelect(1, color);
+    m_surface.brushHollow();
+    const auto box = [&](bool round) {
+        const int x1 = devTrunc(x + h), y1 = devTrunc(y + h);
+        const int x2 = devTrunc(x - h), y2 = devTrunc(y - h);
+        if (round)
+            m_surface.ellipse(x1, y1, x2, y2);
+        else
+            m_surface.rectangle(x1, y1, x2, y2);
+    };
+    const auto ray = [&](double dx, double dy) {
+        m_surface.moveTo(devTrunc(x), devTrunc(y));
+        m_surface.lineTo(devTrunc(x + dx), devTrunc(y + dy));
+    };
+    if (mode & 8) {
+        m_surface.brushSolid(color);
+        box(false);
+    } else {
+        if (mode & 32)
+            box(true);
+        if (mode & 64)
+            box(false);
+        if ((mode & 1) && (mode & 2)) {
+            ray(-h, -h);
+            ray(-h, h);
+            ray(h, -h);
+            ray(h, h);
+        } else if (mode & 1) {
+            // nothing
+        } else if (mode & 2) {
+            ray(0, -h);
+            ray(0, h);
+            ray(h, 0);
+            ray(-h, 0);
+        } else if (mode & 4) {
+            ray(0, -h);
+        } else {
+            m_surface.brushSolid(color);
+            m_surface.ellipse(devTrunc(x + 1), devTrunc(y + 1), devTrunc(x - 1), devTrunc(y - 1));
+        }
+    }
+    m_surface.brushFree();
+    m_surface.penFree();
+}
+
+void CQorItemPainter::scanLineFill(const CQorArrayTempl<CQorVertexArray>& contours) {
+    CQorPoint3d lo, hi;
+    contours[0].extents(lo, hi);
+    CQorArrayTempl<CQorVertexArray> rows;
+    for (int y = devTrunc(lo.y); y < hi.y; ++y) {
+        const CQorVertexArray row(CQorVertex(CQorPoint3d(lo.x, y, 0), CQorPoint3d(hi.x, y, 0)));
+        const CQorArrayTempl<CQorVertexArray> inside = g_vl_punch_reg(row, contours, true);
+        for (int k = 0; k < inside.len(); ++k)
+            rows.append(inside[k]);
+    }
+    for (int k = 0; k < rows.len(); ++k)
+        stroke(rows[k], CQorMatrix3d::kIdentity, false);
+}
+
+void CQorItemPainter::drawReg(const CQorGDX& gdx, int i, const CQorMatrix3d& mm,
+                              const CQorArrayTempl<double>& pattern, const CQorPaintMatrices& m) {
+    const CQorDisplayItem& item = gdx.getDisplayList()[i];
+    CQorArrayTempl<CQorVertexArray> contours = item.regions;
+    std::uint32_t fillKind = item.flag;
+    if (fillKind & (GDX_FLAG_FILL | GDX_FLAG_HATCH)) {
+        CHatchProp hatch;
+        gdx.hatchGet(i, hatch);
+        if ((fillKind & GDX_FLAG_HATCH) && !qor_gdx_pattern_test(contours, hatch, item.mtx * mm)) {
+            fillKind &= ~static_cast<std::uint32_t>(GDX_FLAG_HATCH);
+            fillKind |= GDX_FLAG_FILL;
+        }
+        m_surface.penSelect(1, fillColor(gdx, i));
+        const CQorMatrix3d d = mm * m.vd * item.mtx;
+        contours = qor_gdx_image_reg_split(contours);
+        if (fillKind & GDX_FLAG_FILL) {
+            CQorArrayTempl<CQorVertexArray> dev = contours;
+            for (int k = 0; k < dev.len(); ++k)
+                dev[k].transformBy(d);
+            scanLineFill(dev);
+        }
+        if (fillKind & GDX_FLAG_HATCH) {
+            const bool dots = hatch.name == L"DOTS";
+            const CQorArrayTempl<CQorVertexArray> lines =
+                qor_gdx_image_reg_hatch2(contours, CQorMatrix3d::kIdentity, hatch);
+            for (int k = 0; k < lines.len(); ++k)
+                stroke(lines[k], d, dots || !isSolid(lines[k]));
+        }
+        m_surface.penFree();
+    }
+    if (fillKind & GDX_FLAG_OUTLINE) {
+        m_surface.penSelect(static_cast<int>(item.thickn), lineColor(gdx, i));
+        const CQorMatrix3d d = mm * item.mtx;
+        for (int k = 0; k < item.regions.len(); ++k)
+            outline(item.regions[k], d, pattern, m);
+        m_surface.penFree();
+    }
+}
+
+void CQorItemPainter::drawTxt(const CQorDisplayItem& item, const CQorMatrix3d& mm,
+                              unsigned long color, unsigned long back, const CQorPaintMatrices& m) {
+    const CQorMatrix3d d = mm * m.vd * item.mtx;
+    for (int e = 0; e < item.regionList.len(); ++e) {
+        CQorArrayTempl<CQorVertexArray> contours = item.regionList[e];
+        if (contours.len() == 0)
+            contours.append(CQorVertexArray());
+        for (int k = 0; k < contours.len(); ++k)
+            contours[k].transformBy(d);
+        if (contours[0].isClosed()) {
+            for (int k = 1; k < contours.len(); ++k)
+                m_surface.clipSubtractPolygon(truncated(contours[k].pts(true, kPaintChordTol)));
+            std::vector<DevicePoint> outer;
+            for (int k = 0; k < contours[0].len(); ++k) {
+                const std::vector<DevicePoint> part =
+                    truncated(CQorVertexArray(contours[0][k]).pts(true, kPaintChordTol));
+                outer.insert(outer.end(), part.begin(), part.end());
+            }
+            m_surface.bkColorSet(back);
+            m_surface.brushSolid(color);
+            m_surface.polyFillModeSet(1);
+            m_surface.polygon(outer);
+            m_surface.brushFree();
+            m_surface.clipRect(0, 0, m_clipW, m_clipH);
+        }
+        m_surface.penSelect(1, color);
+        for (int k = 0; k < contours.len(); ++k)
+            stroke(contours[k], CQorMatrix3d::kIdentity, false);
+        m_surface.penFree();
+    }
+}
+
+} // namespace QOR
