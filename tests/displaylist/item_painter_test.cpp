@@ -357,3 +357,21 @@ TEST(ItemPainter, GlyphHoleClipsOnlyItsOwnGlyph) {
     EXPECT_EQ(countOf(calls, "bk ffffff"), 2);
     EXPECT_EQ(countOf(calls, "fillmode 1"), 2);
 }
+
+TEST(ItemPainter, UserHatchRowsAreStrokedInFillColour) {
+    CQorGDX gdx = boxDoc();
+    const QOR::CHatchProp rows(L"_USER", 0.0, 5.0, false);
+    gdx.imageReg(path({1}), GDX_FLAG_HATCH, region(rect(10, 12, 50, 28)), indexed(1),
+                 CQorMatrix3d(), CQorArrayTempl<double>(), 1.0, 1, indexed(3), rows, CQorPoint3d());
+    // Rows at y 15, 20 and 25 of the item: device rows 90, 85 and 80.
+    EXPECT_EQ(itemCalls(paint(gdx)),
+              (Calls{"pen 1 0000ff", "pen 1 00ff00", "move 55 90", "line 15 90", "move 55 85",
+                     "line 15 85", "move 55 80", "line 15 80", "pen free", "pen free"}));
+}
+
+TEST(ItemPainter, FillColourIndexZeroMeansTheLineColour) {
+    CQorGDX gdx = boxDoc();
+    gdx.imageReg(path({1}), GDX_FLAG_FILL, region(rect(10, 10, 50, 11)), indexed(1), CQorMatrix3d(),
+                 CQorArrayTempl<double>(), 1.0, 1, indexed(0), QOR::CHatchProp(), CQorPoint3d());
+    EXPECT_EQ(itemCalls(paint(gdx))[1], "pen 1 0000ff");
+}
