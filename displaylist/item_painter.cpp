@@ -181,7 +181,7 @@ void CQorItemPainter::outline(CQorVertexArray vl, const CQorMatrix3d& d,
     if (pattern.len() > 0)
         qor_gdx_image_vl_measure(vl, pattern, 1);
     const bool solid = isSolid(vl);
-    stroke(qor_gdx_image_vl_split(vl), d, m_policy.solidTest ? !solid : true);
+    stroke(qor_gdx_image_vl_split(vl), d, !solid);
 }
 
 void CQorItemPainter::drawVl(const CQorDisplayItem& item, const CQorMatrix3d& mm,

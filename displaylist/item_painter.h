@@ -16,14 +16,13 @@ constexpr double kPaintDotLengthMm = 0.21;
 constexpr double kPaintDotLimitMm = 0.22;
 constexpr double kPaintChordTol = 0.5;
 
-// What differs between outputs. metafile() gives the values of refresh.
+// What differs between outputs. metafile() gives the values of refresh. Only the
+// colour correction is carried so far; the screen's differences (dots as pixels,
+// polygon fills, the inverse of a colour equal to the background, the corners of
+// point mode 64 and 8, the hatch's solid test) are still to come.
 struct QOR_API CQorPaintPolicy {
     // A colour of exactly 0xFFFFFF is drawn as 0 (white paper takes no white).
     bool whiteToBlack = true;
-    // A short piece of an array that is neither continuous nor closed is a dot.
-    bool solidTest = true;
-    // Regions are filled by device rows of lines rather than by a device polygon.
-    bool scanLineFill = true;
 
     static CQorPaintPolicy metafile();
 };
