@@ -4,6 +4,7 @@
 
 #include "foundation/qor_export.h"
 
+#include <climits>
 #include <cstdint>
 #include <string>
 #include <vector>

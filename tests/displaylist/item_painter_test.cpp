@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+#include <cmath>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -374,4 +377,13 @@ TEST(ItemPainter, FillColourIndexZeroMeansTheLineColour) {
     gdx.imageReg(path({1}), GDX_FLAG_FILL, region(rect(10, 10, 50, 11)), indexed(1), CQorMatrix3d(),
                  CQorArrayTempl<double>(), 1.0, 1, indexed(0), QOR::CHatchProp(), CQorPoint3d());
     EXPECT_EQ(itemCalls(paint(gdx))[1], "pen 1 0000ff");
+}
+
+TEST(ItemPainter, DeviceCoordinatesTruncateTowardZero) {
+    EXPECT_EQ(QOR::devTrunc(2.99), 2);
+    EXPECT_EQ(QOR::devTrunc(-2.99), -2);
+    EXPECT_EQ(QOR::devTrunc(-0.5), 0);
+    EXPECT_EQ(QOR::devTrunc(1e300), INT_MAX);
+    EXPECT_EQ(QOR::devTrunc(-1e300), INT_MIN);
+    EXPECT_EQ(QOR::devTrunc(std::nan("")), 0);
 }
