@@ -73,19 +73,19 @@ void CQorEmfSurface::bound(int x, int y) {
 }
 
 void CQorEmfSurface::selectStock(std::uint32_t index) {
-    begin(EMR_SELECTOBJECT, 12);
+    begin(kEmrSelectobject, 12);
     u32(kStock | index);
 }
 
 void CQorEmfSurface::penSelect(int width, unsigned long color) {
     penFree();
-    begin(EMR_CREATEPEN, 28);
+    begin(kEmrCreatepen, 28);
     u32(kPenSlot);
     u32(0); // PS_SOLID
     i32(width);
     i32(0);
     u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
-    begin(EMR_SELECTOBJECT, 12);
+    begin(kEmrSelectobject, 12);
     u32(kPenSlot);
     m_pen = true;
 }
@@ -94,31 +94,31 @@ void CQorEmfSurface::penFree() {
     if (!m_pen)
         return;
     selectStock(kStockBlackPen);
-    begin(EMR_DELETEOBJECT, 12);
+    begin(kEmrDeleteobject, 12);
     u32(kPenSlot);
     m_pen = false;
 }
 
 void CQorEmfSurface::brushSolid(unsigned long color) {
     brushFree();
-    begin(EMR_CREATEBRUSHINDIRECT, 24);
+    begin(kEmrCreatebrushindirect, 24);
     u32(kBrushSlot);
     u32(0); // BS_SOLID
     u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
     u32(0);
-    begin(EMR_SELECTOBJECT, 12);
+    begin(kEmrSelectobject, 12);
     u32(kBrushSlot);
     m_brush = true;
 }
 
 void CQorEmfSurface::brushHollow() {
     brushFree();
-    begin(EMR_CREATEBRUSHINDIRECT, 24);
+    begin(kEmrCreatebrushindirect, 24);
     u32(kBrushSlot);
     u32(1); // BS_HOLLOW
     u32(0);
     u32(0);
-    begin(EMR_SELECTOBJECT, 12);
+    begin(kEmrSelectobject, 12);
     u32(kBrushSlot);
     m_brush = true;
 }
@@ -127,26 +127,26 @@ void CQorEmfSurface::brushFree() {
     if (!m_brush)
         return;
     selectStock(kStockWhiteBrush);
-    begin(EMR_DELETEOBJECT, 12);
+    begin(kEmrDeleteobject, 12);
     u32(kBrushSlot);
     m_brush = false;
 }
 
 void CQorEmfSurface::moveTo(int x, int y) {
-    begin(EMR_MOVETOEX, 16);
+    begin(kEmrMovetoex, 16);
     i32(x);
     i32(y);
 }
 
 void CQorEmfSurface::lineTo(int x, int y) {
-    begin(EMR_LINETO, 16);
+    begin(kEmrLineto, 16);
     i32(x);
     i32(y);
     bound(x, y);
 }
 
 void CQorEmfSurface::rectangle(int x1, int y1, int x2, int y2) {
-    begin(EMR_RECTANGLE, 24);
+    begin(kEmrRectangle, 24);
     i32(x1);
     i32(y1);
     i32(x2);
@@ -156,7 +156,7 @@ void CQorEmfSurface::rectangle(int x1, int y1, int x2, int y2) {
 }
 
 void CQorEmfSurface::ellipse(int x1, int y1, int x2, int y2) {
-    begin(EMR_ELLIPSE, 24);
+    begin(kEmrEllipse, 24);
     i32(x1);
     i32(y1);
     i32(x2);
@@ -166,7 +166,7 @@ void CQorEmfSurface::ellipse(int x1, int y1, int x2, int y2) {
 }
 
 void CQorEmfSurface::polyFillModeSet(int mode) {
-    begin(EMR_SETPOLYFILLMODE, 12);
+    begin(kEmrSetpolyfillmode, 12);
     i32(mode);
 }
 
@@ -185,9 +185,9 @@ void CQorEmfSurface::polygon(const std::vector<DevicePoint>& pts) {
     const bool small = fits16(pts);
     if (small) {
         const std::uint32_t size = 28 + ((4 * n + 3) & ~3u);
-        begin(EMR_POLYGON16, size);
+        begin(kEmrPolygon16, size);
     } else {
-        begin(EMR_POLYGON, 28 + 8 * n);
+        begin(kEmrPolygon, 28 + 8 * n);
     }
     i32(x0);
     i32(y0);
@@ -206,12 +206,12 @@ void CQorEmfSurface::polygon(const std::vector<DevicePoint>& pts) {
 }
 
 void CQorEmfSurface::bkColorSet(unsigned long color) {
-    begin(EMR_SETBKCOLOR, 12);
+    begin(kEmrSetbkcolor, 12);
     u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
 }
 
 void CQorEmfSurface::setPixel(int x, int y, unsigned long color) {
-    begin(EMR_SETPIXELV, 20);
+    begin(kEmrSetpixelv, 20);
     i32(x);
     i32(y);
     u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
@@ -224,7 +224,7 @@ void CQorEmfSurface::fillSolidRect(int x1, int y1, int x2, int y2, unsigned long
     brushSolid(color);
     const int l = std::min(x1, x2), t = std::min(y1, y2);
     const int w = std::abs(x2 - x1), h = std::abs(y2 - y1);
-    begin(EMR_BITBLT, 100);
+    begin(kEmrBitblt, 100);
     i32(l);
     i32(t);
     i32(l + w - 1);
@@ -256,7 +256,7 @@ void CQorEmfSurface::region(int mode, const std::vector<int>& rects) {
         }
     }
     const std::uint32_t data = 32 + 16 * count;
-    begin(EMR_EXTSELECTCLIPRGN, 16 + data);
+    begin(kEmrExtselectcliprgn, 16 + data);
     u32(data);
     i32(mode);
     u32(32); // RGNDATAHEADER: dwSize
@@ -284,7 +284,7 @@ void CQorEmfSurface::bitmapCopy(int x, int y, int width, int height, const Devic
         bmp.pixels.size() != static_cast<size_t>(bmp.width) * static_cast<size_t>(bmp.height))
         return;
     const std::uint32_t bits = 4u * static_cast<std::uint32_t>(bmp.pixels.size());
-    begin(EMR_BITBLT, 100 + 40 + bits);
+    begin(kEmrBitblt, 100 + 40 + bits);
     i32(x);
     i32(y);
     i32(x + width - 1);
@@ -330,7 +330,7 @@ std::string CQorEmfSurface::bytes() {
     const std::uint32_t size = kHeaderSize + static_cast<std::uint32_t>(m_body.size()) + 20;
     std::string out;
     out.reserve(size);
-    put32(out, EMR_HEADER);
+    put32(out, kEmrHeader);
     put32(out, kHeaderSize);
     const int bx0 = m_empty ? 0 : m_minX, by0 = m_empty ? 0 : m_minY;
     const int bx1 = m_empty ? -1 : m_maxX, by1 = m_empty ? -1 : m_maxY;
@@ -357,7 +357,7 @@ std::string CQorEmfSurface::bytes() {
     put32(out, kDeviceMmW * 1000);
     put32(out, kDeviceMmH * 1000);
     out += m_body;
-    put32(out, EMR_EOF);
+    put32(out, kEmrEof);
     put32(out, 20);
     put32(out, 0);
     put32(out, 16);

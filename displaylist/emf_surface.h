@@ -10,25 +10,26 @@
 
 namespace QOR {
 
-// EMF record types used here.
+// EMF record types used here (EMR_HEADER is kEmrHeader and so on; the names of
+// the system headers are macros, so they are not taken over).
 enum EmfRecord : std::uint32_t {
-    EMR_HEADER = 1,
-    EMR_POLYGON = 3,
-    EMR_EOF = 14,
-    EMR_SETPIXELV = 15,
-    EMR_SETPOLYFILLMODE = 19,
-    EMR_SETBKCOLOR = 25,
-    EMR_MOVETOEX = 27,
-    EMR_SELECTOBJECT = 37,
-    EMR_CREATEPEN = 38,
-    EMR_CREATEBRUSHINDIRECT = 39,
-    EMR_DELETEOBJECT = 40,
-    EMR_ELLIPSE = 42,
-    EMR_RECTANGLE = 43,
-    EMR_LINETO = 54,
-    EMR_EXTSELECTCLIPRGN = 75,
-    EMR_BITBLT = 76,
-    EMR_POLYGON16 = 86,
+    kEmrHeader = 1,
+    kEmrPolygon = 3,
+    kEmrEof = 14,
+    kEmrSetpixelv = 15,
+    kEmrSetpolyfillmode = 19,
+    kEmrSetbkcolor = 25,
+    kEmrMovetoex = 27,
+    kEmrSelectobject = 37,
+    kEmrCreatepen = 38,
+    kEmrCreatebrushindirect = 39,
+    kEmrDeleteobject = 40,
+    kEmrEllipse = 42,
+    kEmrRectangle = 43,
+    kEmrLineto = 54,
+    kEmrExtselectcliprgn = 75,
+    kEmrBitblt = 76,
+    kEmrPolygon16 = 86,
 };
 
 // Pens and brushes take the object slots 1 and 2 of the handle table (slot 0 is

@@ -65,7 +65,7 @@ TEST(EmfSurface, EmptyMetafileIsHeaderAndEnd) {
     CQorEmfSurface emf;
     const std::string bytes = emf.bytes();
     const std::vector<Record> recs = records(bytes);
-    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::EMR_HEADER, QOR::EMR_EOF}));
+    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::kEmrHeader, QOR::kEmrEof}));
     const Record& h = recs[0];
     EXPECT_EQ(h.size, 108u);
     EXPECT_EQ(h.words[8], 0x464D4520u); // " EMF"
@@ -85,8 +85,8 @@ TEST(EmfSurface, LineRecordsCarryTheirPointsAndGrowTheBounds) {
     emf.moveTo(3, -4);
     emf.lineTo(40, 25);
     const std::vector<Record> recs = records(emf.bytes());
-    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::EMR_HEADER, QOR::EMR_MOVETOEX,
-                                                       QOR::EMR_LINETO, QOR::EMR_EOF}));
+    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::kEmrHeader, QOR::kEmrMovetoex,
+                                                       QOR::kEmrLineto, QOR::kEmrEof}));
     EXPECT_EQ(i(recs[1].words[0]), 3);
     EXPECT_EQ(i(recs[1].words[1]), -4);
     EXPECT_EQ(i(recs[2].words[0]), 40);
@@ -101,9 +101,9 @@ TEST(EmfSurface, PenIsCreatedSelectedAndDeletedOnFree) {
     emf.penSelect(3, 0x0000FF);
     emf.penFree();
     const std::vector<Record> recs = records(emf.bytes());
-    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::EMR_HEADER, QOR::EMR_CREATEPEN,
-                                                       QOR::EMR_SELECTOBJECT, QOR::EMR_SELECTOBJECT,
-                                                       QOR::EMR_DELETEOBJECT, QOR::EMR_EOF}));
+    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::kEmrHeader, QOR::kEmrCreatepen,
+                                                       QOR::kEmrSelectobject, QOR::kEmrSelectobject,
+                                                       QOR::kEmrDeleteobject, QOR::kEmrEof}));
     EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{1, 0, 3, 0, 0x0000FF}));
     EXPECT_EQ(recs[2].words[0], 1u);
     EXPECT_EQ(recs[3].words[0], 0x80000007u); // stock black pen
@@ -116,7 +116,7 @@ TEST(EmfSurface, PenStillSelectedIsFreedBeforeTheEnd) {
     const std::vector<Record> recs = records(emf.bytes());
     ASSERT_EQ(recs.size(), 6u);
     EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{2, 1, 0, 0})); // BS_HOLLOW
-    EXPECT_EQ(recs[4].type, QOR::EMR_DELETEOBJECT);
+    EXPECT_EQ(recs[4].type, QOR::kEmrDeleteobject);
 }
 
 TEST(EmfSurface, SmallPolygonIsPolygon16) {
@@ -124,7 +124,7 @@ TEST(EmfSurface, SmallPolygonIsPolygon16) {
     emf.polygon({{0, 0}, {10, 0}, {10, 5}});
     const std::vector<Record> recs = records(emf.bytes());
     ASSERT_EQ(recs.size(), 3u);
-    EXPECT_EQ(recs[1].type, QOR::EMR_POLYGON16);
+    EXPECT_EQ(recs[1].type, QOR::kEmrPolygon16);
     EXPECT_EQ(recs[1].size, 40u);
     EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{0, 0, 10, 5, 3, 0, 10, 5u << 16 | 10u}));
 }
@@ -134,7 +134,7 @@ TEST(EmfSurface, LargePolygonIsPolygonOf32BitPoints) {
     emf.polygon({{0, 0}, {40000, 0}, {0, 7}});
     const std::vector<Record> recs = records(emf.bytes());
     ASSERT_EQ(recs.size(), 3u);
-    EXPECT_EQ(recs[1].type, QOR::EMR_POLYGON);
+    EXPECT_EQ(recs[1].type, QOR::kEmrPolygon);
     EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{0, 0, 40000, 7, 3, 0, 0, 40000, 0, 0, 7}));
 }
 
@@ -143,7 +143,7 @@ TEST(EmfSurface, ClipRectangleIsOneRectangleRegionCopied) {
     emf.clipRect(0, 0, 320, 240);
     const std::vector<Record> recs = records(emf.bytes());
     ASSERT_EQ(recs.size(), 3u);
-    EXPECT_EQ(recs[1].type, QOR::EMR_EXTSELECTCLIPRGN);
+    EXPECT_EQ(recs[1].type, QOR::kEmrExtselectcliprgn);
     EXPECT_EQ(recs[1].words,
               (std::vector<std::uint32_t>{48, 5, 32, 1, 1, 16, 0, 0, 320, 240, 0, 0, 320, 240}));
 }
@@ -173,9 +173,9 @@ TEST(EmfSurface, RefreshWritesTheDocumentToAFile) {
     ASSERT_TRUE(QOR::readFileBytes(wname.c_str(), bytes));
     const std::vector<Record> recs = records(bytes);
     ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{
-                               QOR::EMR_HEADER, QOR::EMR_EXTSELECTCLIPRGN, QOR::EMR_CREATEPEN,
-                               QOR::EMR_SELECTOBJECT, QOR::EMR_MOVETOEX, QOR::EMR_LINETO,
-                               QOR::EMR_SELECTOBJECT, QOR::EMR_DELETEOBJECT, QOR::EMR_EOF}));
+                               QOR::kEmrHeader, QOR::kEmrExtselectcliprgn, QOR::kEmrCreatepen,
+                               QOR::kEmrSelectobject, QOR::kEmrMovetoex, QOR::kEmrLineto,
+                               QOR::kEmrSelectobject, QOR::kEmrDeleteobject, QOR::kEmrEof}));
     // The white line comes out black, with the item's width.
     EXPECT_EQ(recs[2].words, (std::vector<std::uint32_t>{1, 0, 2, 0, 0}));
     EXPECT_EQ(recs[4].words, (std::vector<std::uint32_t>{15, 95}));
@@ -221,8 +221,8 @@ TEST(EmfSurface, LinesAreTheSameOnTheRecorderAndInTheMetafile) {
         if (c.op == QOR::DrawOp::MoveTo || c.op == QOR::DrawOp::LineTo)
             fromRec.push_back(QOR::CQorRecordingSurface::describe(c));
     for (const Record& r : records(emf.bytes())) {
-        if (r.type == QOR::EMR_MOVETOEX || r.type == QOR::EMR_LINETO)
-            fromEmf.push_back(std::string(r.type == QOR::EMR_MOVETOEX ? "move " : "line ") +
+        if (r.type == QOR::kEmrMovetoex || r.type == QOR::kEmrLineto)
+            fromEmf.push_back(std::string(r.type == QOR::kEmrMovetoex ? "move " : "line ") +
                               std::to_string(i(r.words[0])) + " " + std::to_string(i(r.words[1])));
     }
     EXPECT_GT(fromRec.size(), 40u);
