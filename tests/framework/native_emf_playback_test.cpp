@@ -160,3 +160,31 @@ TEST(NativeEmf, GlyphHoleStaysClear) {
     EXPECT_EQ(bmp.at(40, 70), 0xFFFFFFu); // in the hole
     EXPECT_EQ(bmp.at(80, 70), 0xFFFFFFu); // outside
 }
+
+TEST(NativeEmf, HatchedSquareShowsRowsAtTheirSpacing) {
+    CQorGDX gdx = whiteDoc();
+    CQorColor line, fill;
+    line.setColorIndex(1);
+    fill.setColorIndex(3);
+    CQorArrayTempl<CQorVertexArray> reg;
+    reg.append(box(10, 12, 50, 28));
+    gdx.imageReg(one(1), GDX_FLAG_HATCH, reg, line, CQorMatrix3d(), CQorArrayTempl<double>(), 1.0,
+                 1, fill, QOR::CHatchProp(L"_USER", 0.0, 5.0, false), CQorPoint3d());
+    HENHMETAFILE emf = load(paintToEmf(gdx));
+    ASSERT_NE(emf, nullptr);
+    Bitmap32 bmp(110, 110);
+    play(emf, bmp);
+    DeleteEnhMetaFile(emf);
+    // Rows at item y 15, 20, 25 are recorded on device rows 90, 85 and 80. Played
+    // through the frame of the header they may land one row lower (the frame is
+    // kept at 96 dots per inch), so the first row is checked to within one and the
+    // spacing exactly.
+    std::vector<int> green;
+    for (int y = 70; y < 100; ++y)
+        if (bmp.at(35, y) == 0x00FF00u)
+            green.push_back(y);
+    ASSERT_EQ(green.size(), 3u) << "green rows at x 35";
+    EXPECT_NEAR(green[0], 80, 1);
+    EXPECT_EQ(green[1] - green[0], 5);
+    EXPECT_EQ(green[2] - green[1], 5);
+}
