@@ -149,8 +149,11 @@ void CQorItemPainter::drawItem(CQorGDX& gdx, int i, const CQorPaintMatrices& m) 
     case GDX_TXT:
         drawTxt(item, mm, color, gdx.backColorGet().oleColor(), m);
         break;
+    case GDX_PICTURE:
+        drawPicture(gdx, i);
+        break;
     default:
-        // Pictures are not drawn yet; unknown kinds draw nothing.
+        // An unknown kind draws nothing, after its pen was made.
         break;
     }
     m_surface.penFree();
@@ -330,6 +333,25 @@ void CQorItemPainter::drawTxt(const CQorDisplayItem& item, const CQorMatrix3d& m
             stroke(contours[k], CQorMatrix3d::kIdentity, false);
         m_surface.penFree();
     }
+}
+
+void CQorItemPainter::drawPicture(const CQorGDX& gdx, int i) {
+    const CQorDisplayItem& item = gdx.getDisplayList()[i];
+    CQorString name;
+    int number = 0;
+    gdx.pictureGet(i, name, number);
+    const bool transparent = (item.flag & GDX_FLAG_PIC_TRANSPARENT) != 0;
+    // Corners are device coordinates as stored; no matrix acts on a picture.
+    CQorPoint3d p1(0, 0, 0), p2(m_clipW, m_clipH, 0);
+    if (!(item.flag & GDX_FLAG_PIC_WINDOW) && item.vertices.len() > 0) {
+        p1 = item.vertices[0].m_start;
+        p2 = item.vertices[-1].m_end;
+    }
+    const int w = devTrunc(p2.x - p1.x), h = devTrunc(p2.y - p1.y);
+    DeviceBitmap bmp;
+    if (!m_loader || !m_loader(name, number, w, h, transparent, kWhite, bmp))
+        return;
+    m_surface.bitmapCopy(devTrunc(p1.x), devTrunc(p1.y), w, h, bmp);
 }
 
 } // namespace QOR

@@ -35,9 +35,19 @@ struct QOR_API CQorPaintMatrices {
     CQorMatrix3d fixed; // fixed-size items: unit square scale, y flipped
 };
 
+// Gives the bitmap of a picture item at width by height device units: name and
+// number as the item holds them, the item's transparency switch and the colour
+// that stands for the background. False when there is no bitmap.
+using PictureLoader = bool (*)(const CQorString& name, int number, int width, int height,
+                               bool transparent, unsigned long back, DeviceBitmap& out);
+
 class QOR_API CQorItemPainter {
 public:
     CQorItemPainter(CQorDrawSurface& surface, const CQorPaintPolicy& policy);
+
+    // Without a loader (the default) pictures draw nothing, as a picture that can't
+    // be loaded does.
+    void pictureLoaderSet(PictureLoader loader) { m_loader = loader; }
 
     // The whole run: sorts the list, replaces the document's viewMtx by the view of
     // this output, clips to (0, 0)-(width, height) and draws every item not hidden,
@@ -76,6 +86,7 @@ private:
                  const CQorArrayTempl<double>& pattern, const CQorPaintMatrices& m);
     void drawTxt(const CQorDisplayItem& item, const CQorMatrix3d& mm, unsigned long color,
                  unsigned long back, const CQorPaintMatrices& m);
+    void drawPicture(const CQorGDX& gdx, int i);
     void outline(CQorVertexArray vl, const CQorMatrix3d& d, const CQorArrayTempl<double>& pattern,
                  const CQorPaintMatrices& m);
     unsigned long corrected(unsigned long c) const;
@@ -86,6 +97,7 @@ private:
     double m_dotLimit = kPaintDotLimitMm;
     int m_clipW = 0;
     int m_clipH = 0;
+    PictureLoader m_loader = nullptr;
 };
 
 } // namespace QOR

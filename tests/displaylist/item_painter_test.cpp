@@ -387,3 +387,62 @@ TEST(ItemPainter, DeviceCoordinatesTruncateTowardZero) {
     EXPECT_EQ(QOR::devTrunc(-1e300), INT_MIN);
     EXPECT_EQ(QOR::devTrunc(std::nan("")), 0);
 }
+
+namespace {
+struct PictureRequest {
+    std::wstring name;
+    int number = 0, width = 0, height = 0;
+    bool transparent = false;
+    unsigned long back = 0;
+};
+PictureRequest g_request;
+
+bool onePixelPicture(const CQorString& name, int number, int width, int height, bool transparent,
+                     unsigned long back, QOR::DeviceBitmap& out) {
+    g_request = PictureRequest{
+        std::wstring(static_cast<const wchar_t*>(name)), number, width, height, transparent, back};
+    out.width = 1;
+    out.height = 1;
+    out.pixels.assign(1, 0x123456);
+    return true;
+}
+
+Calls pictureCalls(unsigned long flag, bool withLoader) {
+    CQorGDX gdx = boxDoc();
+    gdx.imagePicture(path({1}), flag, L"logo", 3, CQorPoint3d(10.9, 10, 0),
+                     CQorPoint3d(40, 30.5, 0));
+    CQorRecordingSurface rec;
+    CQorItemPainter painter(rec, CQorPaintPolicy::metafile());
+    if (withLoader)
+        painter.pictureLoaderSet(onePixelPicture);
+    painter.paint(gdx, 110, 120);
+    return itemCalls(rec.text());
+}
+} // namespace
+
+TEST(ItemPainter, PictureIsCopiedAtItsStoredCorners) {
+    g_request = PictureRequest();
+    EXPECT_EQ(pictureCalls(GDX_FLAG_PIC_TRANSPARENT, true),
+              (Calls{"pen 0 000000", "blit 10 10 29 20", "pen free"}));
+    EXPECT_EQ(g_request.name, L"logo");
+    EXPECT_EQ(g_request.number, 3);
+    EXPECT_EQ(g_request.width, 29);
+    EXPECT_EQ(g_request.height, 20);
+    EXPECT_TRUE(g_request.transparent);
+    EXPECT_EQ(g_request.back, 0xFFFFFFul);
+}
+
+TEST(ItemPainter, WindowPictureFillsTheWholeOutputDespiteCorners) {
+    g_request = PictureRequest();
+    EXPECT_EQ(pictureCalls(GDX_FLAG_PIC_WINDOW, true),
+              (Calls{"pen 0 000000", "blit 0 0 120 110", "pen free"}));
+    EXPECT_EQ(g_request.width, 120);
+    EXPECT_EQ(g_request.height, 110);
+    EXPECT_FALSE(g_request.transparent);
+}
+
+TEST(ItemPainter, PictureWithoutBitmapDrawsNothing) {
+    const Calls calls = pictureCalls(0, false);
+    ASSERT_EQ(calls.size(), 2u);
+    EXPECT_EQ(calls[1], "pen free");
+}
