@@ -5,6 +5,7 @@
 #include "foundation/qor_export.h"
 
 #include <climits>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -12,8 +13,16 @@
 namespace QOR {
 
 // Double to device integer: truncation toward zero, never rounding. Every
-// coordinate the painter hands to a surface goes through this at the call.
+// coordinate the painter hands to a surface goes through this at the call. A value
+// beyond the range of int gives the nearest end of the range and NaN gives 0, so
+// that wild coordinates from outside data never reach an undefined conversion.
 inline int devTrunc(double v) {
+    if (std::isnan(v))
+        return 0;
+    if (v <= static_cast<double>(INT_MIN))
+        return INT_MIN;
+    if (v >= static_cast<double>(INT_MAX))
+        return INT_MAX;
     return static_cast<int>(v);
 }
 
