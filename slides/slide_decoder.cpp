@@ -110,7 +110,7 @@ bool CSlideDecoder::decode(const std::uint8_t* data, std::size_t size, ISlideSin
             lastY = y1;
         } else if (hi == kRecColor) {
             sink.slideColor(lo);
-        } else if (w == kSolidFillWord) {
+        } else if (hi == kRecSolidFill && w == kSolidFillWord) {
             const unsigned n = rec.word();
             rec.word(); // dropped
             poly.assign(static_cast<std::size_t>(n) + 1, SlidePoint{});
