@@ -66,17 +66,17 @@ namespace {
 bool countsForExtents(unsigned long flag) {
     return (flag & (GDX_FLAG_NO_EXT | GDX_FLAG_FIXED_SIZE)) == 0;
 }
-} // namespace
 
-void CQorGDX::imageVl(const CQorArrayTempl<int>& stack, unsigned long flag,
-                      const CQorVertexArray& vl, const CQorColor& color, const CQorMatrix3d& mtx,
-                      const CQorArrayTempl<double>& linetype, double ltscale, unsigned long thickn,
-                      const CQorPoint3d& anchor) {
+// The fields that lines and regions share: an empty pattern is stored as solid,
+// and the anchor only counts for fixed-size items.
+CQorDisplayItem strokedItem(QorDisplayObj type, const CQorArrayTempl<int>& stack,
+                            unsigned long flag, const CQorColor& color, const CQorMatrix3d& mtx,
+                            const CQorArrayTempl<double>& linetype, double ltscale,
+                            unsigned long thickn, const CQorPoint3d& anchor) {
     CQorDisplayItem item;
-    item.type = GDX_VL;
+    item.type = type;
     item.stack = stack;
     item.flag = static_cast<std::uint32_t>(flag);
-    item.vertices = vl;
     item.color = color;
     item.linetype = linetype;
     if (item.linetype.len() == 0)
@@ -86,6 +86,17 @@ void CQorGDX::imageVl(const CQorArrayTempl<int>& stack, unsigned long flag,
     item.mtx = mtx;
     if (flag & GDX_FLAG_FIXED_SIZE)
         item.point = anchor;
+    return item;
+}
+} // namespace
+
+void CQorGDX::imageVl(const CQorArrayTempl<int>& stack, unsigned long flag,
+                      const CQorVertexArray& vl, const CQorColor& color, const CQorMatrix3d& mtx,
+                      const CQorArrayTempl<double>& linetype, double ltscale, unsigned long thickn,
+                      const CQorPoint3d& anchor) {
+    CQorDisplayItem item =
+        strokedItem(GDX_VL, stack, flag, color, mtx, linetype, ltscale, thickn, anchor);
+    item.vertices = vl;
     m_displayList.append(std::move(item));
     if (countsForExtents(flag))
         refresh_ext(vl, m_projMtx * m_viewDirectionMtx * mtx);
@@ -115,21 +126,10 @@ void CQorGDX::imageReg(const CQorArrayTempl<int>& stack, unsigned long flag,
                        const CQorMatrix3d& mtx, const CQorArrayTempl<double>& linetype,
                        double ltscale, unsigned long thickn, const CQorColor& fcolor,
                        const QOR::CHatchProp& hatch, const CQorPoint3d& anchor) {
-    CQorDisplayItem item;
-    item.type = GDX_REG;
-    item.stack = stack;
-    item.flag = static_cast<std::uint32_t>(flag);
+    CQorDisplayItem item =
+        strokedItem(GDX_REG, stack, flag, color, mtx, linetype, ltscale, thickn, anchor);
     item.regions = regions;
-    item.color = color;
-    item.linetype = linetype;
-    if (item.linetype.len() == 0)
-        item.linetype.append(1.0);
-    item.ltscale = ltscale;
-    item.thickn = static_cast<std::uint32_t>(thickn);
-    item.mtx = mtx;
     item.hatch = hatch;
-    if (flag & GDX_FLAG_FIXED_SIZE)
-        item.point = anchor;
     if (flag & (GDX_FLAG_FILL | GDX_FLAG_HATCH))
         item.fcolor = fcolor.colorIndex() >= 0 ? fcolor : color;
     m_displayList.append(std::move(item));
