@@ -100,23 +100,19 @@ void CQorEmfSurface::penFree() {
 }
 
 void CQorEmfSurface::brushSolid(unsigned long color) {
-    brushFree();
-    begin(kEmrCreatebrushindirect, 24);
-    u32(kBrushSlot);
-    u32(0); // BS_SOLID
-    u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
-    u32(0);
-    begin(kEmrSelectobject, 12);
-    u32(kBrushSlot);
-    m_brush = true;
+    brushCreate(0 /* BS_SOLID */, color);
 }
 
 void CQorEmfSurface::brushHollow() {
+    brushCreate(1 /* BS_HOLLOW */, 0);
+}
+
+void CQorEmfSurface::brushCreate(std::uint32_t style, unsigned long color) {
     brushFree();
     begin(kEmrCreatebrushindirect, 24);
     u32(kBrushSlot);
-    u32(1); // BS_HOLLOW
-    u32(0);
+    u32(style);
+    u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
     u32(0);
     begin(kEmrSelectobject, 12);
     u32(kBrushSlot);

@@ -76,6 +76,8 @@ private:
     void bound(int x, int y);
     void region(int mode, const std::vector<int>& rects);
     void selectStock(std::uint32_t index);
+    // Creates and selects a brush of the LOGBRUSH style (0 solid, 1 hollow).
+    void brushCreate(std::uint32_t style, unsigned long color);
 
     std::string m_body;
     int m_records = 0;
