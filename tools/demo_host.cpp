@@ -1,13 +1,28 @@
-// The demo host: loads Qor_2016_18_64_Mfc.Dll at run time with LoadLibraryW, the way
-// a host CAD program does, and reports what it found in it.
+// The demo host: a program that uses Qor_2016_18_64_Mfc.Dll the way a host CAD
+// program does. It links the import library, reports what the DLL holds, installs
+// an application object, and renders the sample model: every document through
+// refresh to an enhanced metafile, and a PNG preview of each.
 #include <windows.h>
+
+#include "displaylist/gdx.h"
+#include "displaylist/refresh.h"
+#include "foundation/data_item.h"
+#include "foundation/data_text_format.h"
+#include "foundation/host/default_app.h"
+#include "foundation/qor_app.h"
+#include "tools/demo_documents.h"
+#include "tools/demo_preview.h"
 
 #include <cstdio>
 #include <cwchar>
+#include <string>
 
 namespace {
 
 const wchar_t kDllName[] = L"Qor_2016_18_64_Mfc.Dll";
+// The output size of every document, in device units (pixels of the previews).
+constexpr int kWidth = 800;
+constexpr int kHeight = 600;
 
 // Counts the named exports of a loaded module by reading its export directory.
 int countExports(HMODULE module, bool print) {
@@ -25,10 +40,63 @@ int countExports(HMODULE module, bool print) {
     return static_cast<int>(exports->NumberOfNames);
 }
 
+void usage() {
+    std::fprintf(stderr,
+                 "usage: qor_demo_host [--exports] [--model FILE --slides LIB --out DIR]\n");
+}
+
+// Renders every demo document to DIR\<name>.emf through refresh, and a PNG preview
+// of each beside it. Returns the number of documents that failed.
+int renderAll(const demo::Inputs& in, const std::wstring& outDir) {
+    CQorDataItem model(1);
+    CQorString error;
+    if (!QOR::dataTextReadFile(in.modelFile.c_str(), model, error)) {
+        std::fprintf(stderr, "demo host: cannot read the model %ls: %ls\n", in.modelFile.c_str(),
+                     error.c_str());
+        return demo::count();
+    }
+    int failed = 0;
+    for (int k = 0; k < demo::count(); ++k) {
+        CQorGDX gdx;
+        const demo::Document d = demo::build(k, model, in, gdx);
+        const std::wstring emf = outDir + L"\\" + d.name + L".emf";
+        const std::wstring png = outDir + L"\\" + d.name + L".png";
+        if (!d.built) {
+            std::printf("  %-8ls  FAILED: nothing drawn (%s)\n", d.name.c_str(), d.title.c_str());
+            ++failed;
+            continue;
+        }
+        refresh(&gdx, emf.c_str(), kHeight, kWidth);
+        const bool ok = demo::emfToPng(emf, png, kWidth, kHeight, 0xFFFFFF);
+        std::printf("  %-8ls  %4d items  %s%s\n", d.name.c_str(), d.items, d.title.c_str(),
+                    ok ? "" : "  (no preview)");
+        failed += ok ? 0 : 1;
+    }
+    return failed;
+}
+
 } // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    const bool listExports = argc > 1 && std::wcscmp(argv[1], L"--exports") == 0;
+    bool listExports = false;
+    demo::Inputs in;
+    std::wstring outDir;
+    for (int k = 1; k < argc; ++k) {
+        const std::wstring a = argv[k];
+        const bool more = k + 1 < argc;
+        if (a == L"--exports") {
+            listExports = true;
+        } else if (a == L"--model" && more) {
+            in.modelFile = argv[++k];
+        } else if (a == L"--slides" && more) {
+            in.slideLib = argv[++k];
+        } else if (a == L"--out" && more) {
+            outDir = argv[++k];
+        } else {
+            usage();
+            return 2;
+        }
+    }
 
     // Look beside this program first, as a host does for its add-on folder.
     wchar_t path[MAX_PATH] = {};
@@ -53,7 +121,17 @@ int wmain(int argc, wchar_t** argv) {
     HICON icon = LoadIconW(dll, MAKEINTRESOURCEW(2000));
     std::printf("icon 2000: %s\n", icon ? "present" : "missing");
     std::printf("named exports: %d\n", countExports(dll, listExports));
+    int status = icon && info[0] ? 0 : 2;
 
+    if (!in.modelFile.empty() && !outDir.empty()) {
+        // The host's application object: here the library's own default.
+        qorAppSet(QOR::defaultAppPtr());
+        std::printf("documents (%d by %d device units) written to %ls:\n", kWidth, kHeight,
+                    outDir.c_str());
+        if (renderAll(in, outDir) != 0)
+            status = 3;
+        qorAppSet(nullptr);
+    }
     FreeLibrary(dll);
-    return icon && info[0] ? 0 : 2;
+    return status;
 }

@@ -3,7 +3,7 @@
 # (Debian 12, run as root). Does nothing when everything is there.
 set -e
 PACKAGES="cmake ninja-build g++ make g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-wine64 googletest libbenchmark-dev clang-format util-linux"
+wine64 googletest libbenchmark-dev clang-format util-linux python3"
 missing=""
 for p in $PACKAGES; do
     if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then

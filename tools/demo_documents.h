@@ -1,0 +1,33 @@
+// The documents the demo host renders: each built from the sample model through the
+// library's image functions, or composed item by item to show the drawing styles.
+#pragma once
+
+#include <string>
+#include <vector>
+
+class CQorDataItem;
+class CQorGDX;
+
+namespace demo {
+
+// Where the demo finds its data (folders end with a separator).
+struct Inputs {
+    std::wstring modelFile;  // the sample model in the data text format
+    std::wstring slideLib;   // a slide library
+    std::wstring slideFile;  // a single slide file
+    std::wstring sheetsFile; // the sheet catalogue
+};
+
+struct Document {
+    std::wstring name;  // file name without ending
+    std::string title;  // one line for the report
+    bool built = false; // false: the generator drew nothing
+    int items = 0;
+};
+
+// Builds document number k (0 to count() - 1) of the model into gdx, and says
+// what it is.
+int count();
+Document build(int k, CQorDataItem& model, const Inputs& in, CQorGDX& gdx);
+
+} // namespace demo
