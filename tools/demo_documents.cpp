@@ -1,12 +1,20 @@
 #include "tools/demo_documents.h"
 
 #include "displaylist/gdx.h"
+#include "foundation/config.h"
 #include "foundation/data_item.h"
+#include "foundation/data_text_format.h"
 #include "foundation/dta_file_pointer.h"
+#include "foundation/fsheet.h"
 #include "foundation/hatch_prop.h"
+#include "images/host_wall_image.h"
+#include "images/image_bar_surface.h"
 #include "images/image_drill.h"
+#include "images/image_fsheet.h"
 #include "images/image_hole.h"
+#include "images/image_registry.h"
 #include "images/image_sld.h"
+#include "images/image_wall.h"
 #include "text/glyph_table.h"
 
 #include <algorithm>
@@ -89,6 +97,54 @@ Document drill(CQorDataItem& model, CQorGDX& gdx) {
     FilePtr object = openItem(model, L"HOLE\\BT\\D1\\GEN");
     Document d{L"drill", "drill, visible edges of its solid (qor_gdx_image_drill)"};
     d.built = object && qor_gdx_image_drill(&gdx, object.get(), nullptr);
+    return d;
+}
+
+// A file of the sample model with an "OBJECT" part and a "PARAMS" part.
+struct Sample {
+    CQorDataItem root{1};
+    FilePtr object, params;
+    bool read(const Inputs& in, const wchar_t* name) {
+        CQorString error;
+        if (!QOR::dataTextReadFile((in.modelDir + name).c_str(), root, error))
+            return false;
+        object = openItem(root, L"OBJECT");
+        params = openItem(root, L"PARAMS");
+        return object != nullptr;
+    }
+};
+
+Document bar(const Inputs& in, CQorGDX& gdx) {
+    Document d{L"bar",
+               "bar section with sub-bars, coat lines and picks (qor_gdx_image_bar_surface)"};
+    Sample s;
+    d.built = s.read(in, L"bar_surface.qdt") &&
+              qor_gdx_image_bar_surface(&gdx, s.object.get(), s.params.get());
+    return d;
+}
+
+Document sheet(const Inputs& in, CQorGDX& gdx, const wchar_t* file, const wchar_t* name,
+               const char* title) {
+    Document d{name, title};
+    Sample s;
+    d.built = QOR::fsheetCatalogLoad((in.modelDir + L"sheets.qdt").c_str()) && s.read(in, file) &&
+              qor_gdx_image_fsheet(&gdx, s.object.get(), s.params.get());
+    return d;
+}
+
+Document wall(const Inputs& in, CQorGDX& gdx) {
+    Document d{L"wall", "wall of three shells being edited (qor_wall_edit_image)"};
+    Sample s;
+    if (s.read(in, L"wall.qdt")) {
+        // The wall editor's state goes into the configuration, and the host's wall
+        // picture is the image function of the kind "WALL".
+        const CQorDataItem* state = s.root.getItem(L"CONFIG\\*WALL_EDIT*");
+        if (state)
+            *QOR::cfg_dir_make(L"*WALL_EDIT*") = *state;
+        setGdxImageFcn(L"WALL", qorHostWallImage);
+        d.built = qor_wall_edit_image(&gdx, s.object.get());
+        setGdxImageFcn(L"WALL", nullptr);
+    }
     return d;
 }
 
@@ -234,7 +290,7 @@ Document glyphs(CQorGDX& gdx) {
 } // namespace
 
 int count() {
-    return 6;
+    return 10;
 }
 
 Document build(int k, CQorDataItem& model, const Inputs& in, CQorGDX& gdx) {
@@ -255,8 +311,25 @@ Document build(int k, CQorDataItem& model, const Inputs& in, CQorGDX& gdx) {
     case 4:
         d = symbols(gdx);
         break;
-    default:
+    case 5:
         d = glyphs(gdx);
+        break;
+    case 6:
+        d = bar(in, gdx);
+        break;
+    case 7:
+        d = sheet(in, gdx, L"fsheet_single.qdt", L"sheet",
+                  "single trapezoidal sheet with centre and coat lines (qor_gdx_image_fsheet)");
+        break;
+    case 8:
+        d = sheet(in, gdx, L"fsheet_sandwich.qdt", L"sandwich",
+                  "sandwich panel with gasket and core (qor_gdx_image_fsheet)");
+        break;
+    case 9:
+        d = wall(in, gdx);
+        break;
+    default:
+        d = Document{L"", "", false};
         break;
     }
     d.items = gdx.lenGet();

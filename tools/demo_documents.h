@@ -12,10 +12,8 @@ namespace demo {
 
 // Where the demo finds its data (folders end with a separator).
 struct Inputs {
-    std::wstring modelFile;  // the sample model in the data text format
-    std::wstring slideLib;   // a slide library
-    std::wstring slideFile;  // a single slide file
-    std::wstring sheetsFile; // the sheet catalogue
+    std::wstring modelDir; // the sample model's files in the data text format
+    std::wstring slideLib; // a slide library
 };
 
 struct Document {
@@ -26,7 +24,7 @@ struct Document {
 };
 
 // Builds document number k (0 to count() - 1) of the model into gdx, and says
-// what it is.
+// what it is. model is the sample model's main file (demo_model.qdt).
 int count();
 Document build(int k, CQorDataItem& model, const Inputs& in, CQorGDX& gdx);
 

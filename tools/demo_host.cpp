@@ -41,8 +41,7 @@ int countExports(HMODULE module, bool print) {
 }
 
 void usage() {
-    std::fprintf(stderr,
-                 "usage: qor_demo_host [--exports] [--model FILE --slides LIB --out DIR]\n");
+    std::fprintf(stderr, "usage: qor_demo_host [--exports] [--model DIR --slides LIB --out DIR]\n");
 }
 
 // Renders every demo document to DIR\<name>.emf through refresh, and a PNG preview
@@ -50,8 +49,9 @@ void usage() {
 int renderAll(const demo::Inputs& in, const std::wstring& outDir) {
     CQorDataItem model(1);
     CQorString error;
-    if (!QOR::dataTextReadFile(in.modelFile.c_str(), model, error)) {
-        std::fprintf(stderr, "demo host: cannot read the model %ls: %ls\n", in.modelFile.c_str(),
+    const std::wstring main = in.modelDir + L"demo_model.qdt";
+    if (!QOR::dataTextReadFile(main.c_str(), model, error)) {
+        std::fprintf(stderr, "demo host: cannot read the model %ls: %ls\n", main.c_str(),
                      error.c_str());
         return demo::count();
     }
@@ -87,7 +87,9 @@ int wmain(int argc, wchar_t** argv) {
         if (a == L"--exports") {
             listExports = true;
         } else if (a == L"--model" && more) {
-            in.modelFile = argv[++k];
+            in.modelDir = argv[++k];
+            if (!in.modelDir.empty() && in.modelDir.back() != L'\\' && in.modelDir.back() != L'/')
+                in.modelDir += L'\\';
         } else if (a == L"--slides" && more) {
             in.slideLib = argv[++k];
         } else if (a == L"--out" && more) {
@@ -123,7 +125,7 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("named exports: %d\n", countExports(dll, listExports));
     int status = icon && info[0] ? 0 : 2;
 
-    if (!in.modelFile.empty() && !outDir.empty()) {
+    if (!in.modelDir.empty() && !outDir.empty()) {
         // The host's application object: here the library's own default.
         qorAppSet(QOR::defaultAppPtr());
         std::printf("documents (%d by %d device units) written to %ls:\n", kWidth, kHeight,

@@ -15,7 +15,7 @@ mkdir -p "$OUT"
 # Wine sees the Linux file system as drive Z:.
 status=0
 build/windows/wine-run.sh build/windows/bin/qor_demo_host.exe \
-    --model "Z:$ROOT/tests/data/model/demo_model.qdt" \
+    --model "Z:$ROOT/tests/data/model" \
     --slides "Z:$ROOT/tests/data/slides/mylib.slb" \
     --out "Z:$OUT" >"$OUT/demo_host.txt" 2>&1 || status=$?
 cat "$OUT/demo_host.txt"
