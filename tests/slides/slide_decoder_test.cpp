@@ -393,3 +393,22 @@ TEST(SlideDecoder, HugeVertexCountOnShortDataEndsWithoutReadingPastTheEnd) {
     EXPECT_EQ(decodeAll(b, dec, &ok), (std::vector<std::string>{"P -772 -772 -772 -772"}));
     EXPECT_TRUE(ok);
 }
+
+TEST(SlideDecoder, SinkIsToldTheHeaderBeforeAnyRecord) {
+    struct CHeaderSink : CRecordingSink {
+        void slideHeader(int highX, int highY) override {
+            calls.push_back("H " + std::to_string(highX) + " " + std::to_string(highY));
+        }
+    };
+    Bytes b = level2Header(300, 200);
+    putWord(b, 0xFF01);
+    CHeaderSink sink;
+    QOR::CSlideDecoder dec;
+    EXPECT_TRUE(dec.decode(b.data(), b.size(), sink));
+    EXPECT_EQ(sink.calls, (std::vector<std::string>{"H 300 200", "C 1"}));
+    // A level the decoder does not read tells nothing.
+    b[18] = 3;
+    CHeaderSink none;
+    EXPECT_FALSE(dec.decode(b.data(), b.size(), none));
+    EXPECT_TRUE(none.calls.empty());
+}
