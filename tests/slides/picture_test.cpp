@@ -246,14 +246,12 @@ TEST_F(PictureTest, MiddleButtonPansWithTheMouseCaptured) {
 
 TEST_F(PictureTest, BadFileWithLastErrorZeroShowsNothingAndStillReturnsTrue) {
     load(40, 20);
-    const std::wstring bad = tempPath(L"bad");
-    files.push_back(bad);
-    writeFile(bad, std::vector<unsigned char>(64, 0x5A));
     MessageBoxCatcher boxes;
+    // A name the picture service refuses by its syntax: it fails without an error
+    // number of the system.
     SetLastError(0);
-    EXPECT_TRUE(pic.LoadImageW(bad.c_str()));
+    EXPECT_TRUE(pic.LoadImageW(L"z"));
     EXPECT_FALSE(pic.hasPicture());
-    // The platform's service fails on the content without an error number.
     EXPECT_EQ(MessageBoxCatcher::count, 0);
     EXPECT_EQ(wintest::WindowPixels(pic.m_hWnd).at(100, 50), kGreen);
 }
