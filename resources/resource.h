@@ -6,3 +6,6 @@
 
 // Icons
 #define IDI_QOR_2000 2000
+
+// Cursors
+#define IDC_QOR_2006 2006 // the pan cursor: four arrows about the hot spot

@@ -62,6 +62,27 @@ TEST(Dll, IconTwoThousandLoadsInBothSizes) {
     DestroyIcon(small);
 }
 
+TEST(Dll, CursorTwoThousandSixLoadsWithItsHotSpotInTheMiddle) {
+    Loaded l;
+    ASSERT_NE(l.dll, nullptr);
+    HCURSOR cursor = LoadCursorW(l.dll, MAKEINTRESOURCEW(2006));
+    ASSERT_NE(cursor, nullptr);
+    ICONINFO info = {};
+    ASSERT_TRUE(GetIconInfo(cursor, &info));
+    EXPECT_FALSE(info.fIcon);
+    EXPECT_EQ(info.xHotspot, 15u);
+    EXPECT_EQ(info.yHotspot, 15u);
+    // A monochrome cursor: the mask holds the AND and the XOR image, one above the other.
+    BITMAP bm = {};
+    GetObjectW(info.hbmMask, sizeof(bm), &bm);
+    EXPECT_EQ(bm.bmWidth, 32);
+    EXPECT_EQ(bm.bmHeight, 64);
+    if (info.hbmColor)
+        DeleteObject(info.hbmColor);
+    DeleteObject(info.hbmMask);
+    DestroyCursor(cursor);
+}
+
 TEST(Dll, ExportedFunctionIsReachableByName) {
     Loaded l;
     ASSERT_NE(l.dll, nullptr);
