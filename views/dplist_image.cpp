@@ -1,5 +1,6 @@
 #include "views/dplist_image.h"
 
+#include "displaylist/gdi_surface.h"
 #include "displaylist/item_painter.h"
 #include "displaylist/view_mtx.h"
 #include "framework/bitmap.h"
@@ -60,8 +61,8 @@ void CQorDplistImage::zoomExtents() {
     dpList->zoomMtxSet(zoomMtx);
 }
 
-std::unique_ptr<QOR::CQorDrawSurface> CQorDplistImage::surfaceMake(CDC&) {
-    return nullptr;
+std::unique_ptr<QOR::CQorDrawSurface> CQorDplistImage::surfaceMake(CDC& memory) {
+    return std::make_unique<QOR::CQorGdiSurface>(memory.m_hDC);
 }
 
 void CQorDplistImage::OnPaint() {

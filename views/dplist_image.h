@@ -51,7 +51,7 @@ public:
 
 protected:
     // The surface the items of one paint are drawn on, over the memory context
-    // that holds the buffer; null draws the background alone.
+    // that holds the buffer: GDI on that context. Null draws the background alone.
     virtual std::unique_ptr<QOR::CQorDrawSurface> surfaceMake(CDC& memory);
     // Asks for a repaint of the whole client area with the background erased, once
     // the window exists.
