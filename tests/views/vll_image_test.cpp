@@ -196,3 +196,26 @@ TEST_F(VllImageTest, ALeftClickOnArrayIPostsIPlusOne) {
     ASSERT_EQ(parent.picks.size(), 1u);
     EXPECT_EQ(parent.picks[0].lParam, 1);
 }
+
+TEST_F(VllImageTest, PaintShowsBlackLinesOnWhiteAndWhiteLinesOnBlack) {
+    CQorArrayTempl<CQorVertexArray> across;
+    across.append(segment(0, 0, 100, 0));
+    across.append(segment(0, 50, 100, 50));
+    for (unsigned long back : {0xFFFFFFul, 0ul}) {
+        view.SetBkColor(back);
+        view.setVll(across);
+        view.UpdateWindow();
+        TestDib shot(kW, kH);
+        grabClient(view.m_hWnd, shot);
+        // The lines run across the middle of the fitted view; find the line colour
+        // on the middle column.
+        int line = 0, background = 0;
+        for (int y = 0; y < kH; ++y) {
+            const COLORREF c = shot.ref(kW / 2, y);
+            line += c == (back ^ 0xFFFFFF) ? 1 : 0;
+            background += c == back ? 1 : 0;
+        }
+        EXPECT_GE(line, 2) << std::hex << back;
+        EXPECT_EQ(line + background, kH) << std::hex << back;
+    }
+}
