@@ -104,7 +104,11 @@ void CQorEmfSurface::brushSolid(unsigned long color) {
 }
 
 void CQorEmfSurface::brushHollow() {
-    brushCreate(1 /* BS_HOLLOW */, 0);
+    // GDI hands out its stock hollow brush for this style: it is selected, never
+    // created or deleted.
+    brushFree();
+    selectStock(kStockNullBrush);
+    m_brushStock = true;
 }
 
 void CQorEmfSurface::brushCreate(std::uint32_t style, unsigned long color) {
@@ -120,6 +124,10 @@ void CQorEmfSurface::brushCreate(std::uint32_t style, unsigned long color) {
 }
 
 void CQorEmfSurface::brushFree() {
+    if (m_brushStock) {
+        selectStock(kStockWhiteBrush);
+        m_brushStock = false;
+    }
     if (!m_brush)
         return;
     selectStock(kStockWhiteBrush);
@@ -141,24 +149,28 @@ void CQorEmfSurface::lineTo(int x, int y) {
     bound(x, y);
 }
 
+void CQorEmfSurface::box(std::uint32_t type, int x1, int y1, int x2, int y2) {
+    // As GDI records a box: corners in order, right and bottom inclusive (one less
+    // than the exclusive edge given), and nothing at all for an empty one.
+    if (x1 == x2 || y1 == y2)
+        return;
+    const int l = std::min(x1, x2), t = std::min(y1, y2);
+    const int r = std::max(x1, x2) - 1, b = std::max(y1, y2) - 1;
+    begin(type, 24);
+    i32(l);
+    i32(t);
+    i32(r);
+    i32(b);
+    bound(l, t);
+    bound(r, b);
+}
+
 void CQorEmfSurface::rectangle(int x1, int y1, int x2, int y2) {
-    begin(kEmrRectangle, 24);
-    i32(x1);
-    i32(y1);
-    i32(x2);
-    i32(y2);
-    bound(x1, y1);
-    bound(x2, y2);
+    box(kEmrRectangle, x1, y1, x2, y2);
 }
 
 void CQorEmfSurface::ellipse(int x1, int y1, int x2, int y2) {
-    begin(kEmrEllipse, 24);
-    i32(x1);
-    i32(y1);
-    i32(x2);
-    i32(y2);
-    bound(x1, y1);
-    bound(x2, y2);
+    box(kEmrEllipse, x1, y1, x2, y2);
 }
 
 void CQorEmfSurface::polyFillModeSet(int mode) {
@@ -273,7 +285,7 @@ void CQorEmfSurface::clipRect(int x1, int y1, int x2, int y2) {
 }
 
 void CQorEmfSurface::clipSubtractPolygon(const std::vector<DevicePoint>& pts) {
-    region(kRgnDiff, polygonRowRects(pts));
+    region(kRgnDiff, regionBands(polygonRowRects(pts)));
 }
 
 void CQorEmfSurface::bitmapCopy(int x, int y, int width, int height, const DeviceBitmap& bmp) {
@@ -366,6 +378,35 @@ bool CQorEmfSurface::save(const wchar_t* file) {
     return writeFileBytes(file, bytes());
 }
 
+std::vector<int> regionBands(const std::vector<int>& rows) {
+    // A band is a run of rectangles with one top and bottom; a band that follows
+    // the one before without a gap and with the same spans continues it.
+    std::vector<int> out;
+    size_t prevStart = 0, prevEnd = 0; // the last band in out, as indices of ints
+    size_t k = 0;
+    while (k + 4 <= rows.size()) {
+        size_t end = k;
+        while (end + 4 <= rows.size() && rows[end + 1] == rows[k + 1] &&
+               rows[end + 3] == rows[k + 3])
+            end += 4;
+        bool same = prevEnd > prevStart && out[prevStart + 3] == rows[k + 1] &&
+                    prevEnd - prevStart == end - k;
+        for (size_t j = 0; same && j < end - k; j += 4)
+            same = out[prevStart + j] == rows[k + j] && out[prevStart + j + 2] == rows[k + j + 2];
+        if (same) {
+            for (size_t j = prevStart; j < prevEnd; j += 4)
+                out[j + 3] = rows[k + 3];
+        } else {
+            prevStart = out.size();
+            out.insert(out.end(), rows.begin() + static_cast<long>(k),
+                       rows.begin() + static_cast<long>(end));
+            prevEnd = out.size();
+        }
+        k = end;
+    }
+    return out;
+}
+
 std::vector<int> polygonRowRects(const std::vector<DevicePoint>& pts) {
     std::vector<int> out;
     if (pts.size() < 3)
@@ -377,7 +418,10 @@ std::vector<int> polygonRowRects(const std::vector<DevicePoint>& pts) {
     }
     std::vector<double> xs;
     for (int y = y0; y < y1; ++y) {
-        const double sy = y + 0.5;
+        // Pixel centres lie on the integers: a row is sampled at y, an edge counts
+        // from its upper end up to but without its lower end, and a span holds the
+        // columns from its left crossing up to but without its right one.
+        const double sy = y;
         xs.clear();
         for (size_t k = 0; k < pts.size(); ++k) {
             const DevicePoint& a = pts[k];
@@ -388,15 +432,19 @@ std::vector<int> polygonRowRects(const std::vector<DevicePoint>& pts) {
         }
         std::sort(xs.begin(), xs.end());
         for (size_t k = 0; k + 1 < xs.size(); k += 2) {
-            // Pixel columns whose middle lies inside the span.
-            const int l = static_cast<int>(std::ceil(xs[k] - 0.5));
-            const int r = static_cast<int>(std::ceil(xs[k + 1] - 0.5));
-            if (r > l) {
-                out.push_back(l);
-                out.push_back(y);
-                out.push_back(r);
-                out.push_back(y + 1);
+            const int l = static_cast<int>(std::ceil(xs[k]));
+            const int r = static_cast<int>(std::ceil(xs[k + 1]));
+            if (r <= l)
+                continue;
+            // A span touching the one before continues it.
+            if (!out.empty() && out[out.size() - 3] == y && out[out.size() - 2] == l) {
+                out[out.size() - 2] = r;
+                continue;
             }
+            out.push_back(l);
+            out.push_back(y);
+            out.push_back(r);
+            out.push_back(y + 1);
         }
     }
     return out;

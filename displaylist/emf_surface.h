@@ -77,6 +77,7 @@ private:
     void bound(int x, int y);
     void region(int mode, const std::vector<int>& rects);
     void selectStock(std::uint32_t index);
+    void box(std::uint32_t type, int x1, int y1, int x2, int y2);
     // Creates and selects a brush of the LOGBRUSH style (0 solid, 1 hollow).
     void brushCreate(std::uint32_t style, unsigned long color);
 
@@ -84,6 +85,7 @@ private:
     int m_records = 0;
     bool m_pen = false;
     bool m_brush = false;
+    bool m_brushStock = false; // the stock hollow brush is selected
     bool m_empty = true;
     unsigned long m_bk = 0xFFFFFFul;
     int m_minX = 0, m_minY = 0, m_maxX = -1, m_maxY = -1;
@@ -91,7 +93,14 @@ private:
 
 // The rows of a polygon under the alternate fill rule as rectangles
 // (left, top, right, bottom; right and bottom exclusive), one per span of a row,
-// sampled at the middle of each row.
+// with pixel centres on the integers as GDI fills a polygon region: rows are
+// sampled at their own y, left edges are in and right edges out, and spans that
+// touch are one.
 QOR_API std::vector<int> polygonRowRects(const std::vector<DevicePoint>& pts);
+
+// Rectangles of rows (as polygonRowRects gives them, sorted by row) joined into
+// the bands of region data: consecutive rows with the same spans become one
+// rectangle per span, as GDI stores a region.
+QOR_API std::vector<int> regionBands(const std::vector<int>& rows);
 
 } // namespace QOR

@@ -2,12 +2,17 @@
 
 #include "displaylist/emf_surface.h"
 #include "displaylist/item_painter.h"
+#include "displaylist/picture_loader.h"
 
+// The native build writes the metafile itself; there is no clipboard, so a
+// null file draws the document (sorting it and setting its view) and drops the
+// metafile.
 void refresh(CQorGDX* gdx, const wchar_t* file, int height, int width) {
     if (!gdx)
         return;
     QOR::CQorEmfSurface emf;
     QOR::CQorItemPainter painter(emf, QOR::CQorPaintPolicy::metafile());
+    painter.pictureLoaderSet(QOR::pictureLoaderDefault());
     painter.paint(*gdx, height, width);
     if (file)
         emf.save(file);

@@ -2,21 +2,18 @@
 
 #include "framework/bitmap.h"
 #include "framework/brush.h"
+#include "framework/handle_map.h"
 #include "framework/pen.h"
 #include "framework/rgn.h"
 
-#include <map>
 #include <memory>
 
 namespace {
 
-std::map<HDC, std::unique_ptr<CDC>>& tempMap() {
-    static std::map<HDC, std::unique_ptr<CDC>> map;
-    return map;
-}
+using DcMap = CHandleMap<HDC, CDC, &CDC::m_hDC>;
 
-std::map<HDC, CDC*>& permanentMap() {
-    static std::map<HDC, CDC*> map;
+DcMap& handleMap() {
+    static DcMap map;
     return map;
 }
 
@@ -30,17 +27,14 @@ BOOL CDC::Attach(HDC dc) {
     if (!dc || m_hDC)
         return FALSE;
     m_hDC = dc;
-    permanentMap()[dc] = this;
+    handleMap().bind(dc, this);
     return TRUE;
 }
 
 HDC CDC::Detach() {
     HDC dc = m_hDC;
-    if (dc) {
-        auto it = permanentMap().find(dc);
-        if (it != permanentMap().end() && it->second == this)
-            permanentMap().erase(it);
-    }
+    if (dc)
+        handleMap().unbind(dc, this);
     m_hDC = nullptr;
     return dc;
 }
@@ -56,26 +50,12 @@ BOOL CDC::DeleteDC() {
 }
 
 CDC* CDC::FromHandle(HDC dc) {
-    if (!dc)
-        return nullptr;
-    auto p = permanentMap().find(dc);
-    if (p != permanentMap().end())
-        return p->second;
-    auto& temps = tempMap();
-    auto t = temps.find(dc);
-    if (t != temps.end())
-        return t->second.get();
-    auto temp = std::make_unique<CDC>();
-    temp->m_hDC = dc; // borrowed, so not through Attach
-    CDC* result = temp.get();
-    temps.emplace(dc, std::move(temp));
-    return result;
+    return handleMap().lookup(
+        dc, [] { return std::make_unique<CDC>(); }, [](const CDC&) { return true; });
 }
 
 void CDC::DeleteTempMap() {
-    for (auto& t : tempMap())
-        t.second->m_hDC = nullptr;
-    tempMap().clear();
+    handleMap().clearTemporaries();
 }
 
 CPen* CDC::SelectObject(CPen* pen) {

@@ -2,23 +2,18 @@
 
 #include "framework/bitmap.h"
 #include "framework/brush.h"
+#include "framework/handle_map.h"
 #include "framework/pen.h"
 #include "framework/rgn.h"
 
-#include <map>
 #include <memory>
 
 namespace {
 
-// Handle maps: wrappers that own their handle, and temporaries of foreign handles.
-// The library runs on the host's user-interface thread only.
-std::map<HGDIOBJ, CGdiObject*>& permanentMap() {
-    static std::map<HGDIOBJ, CGdiObject*> map;
-    return map;
-}
+using GdiMap = CHandleMap<HGDIOBJ, CGdiObject, &CGdiObject::m_hObject>;
 
-std::map<HGDIOBJ, std::unique_ptr<CGdiObject>>& tempMap() {
-    static std::map<HGDIOBJ, std::unique_ptr<CGdiObject>> map;
+GdiMap& handleMap() {
+    static GdiMap map;
     return map;
 }
 
@@ -49,18 +44,14 @@ BOOL CGdiObject::Attach(HGDIOBJ h) {
     if (!h || m_hObject)
         return FALSE;
     m_hObject = h;
-    permanentMap()[h] = this;
+    handleMap().bind(h, this);
     return TRUE;
 }
 
 HGDIOBJ CGdiObject::Detach() {
     HGDIOBJ h = m_hObject;
-    if (h) {
-        auto& map = permanentMap();
-        auto it = map.find(h);
-        if (it != map.end() && it->second == this)
-            map.erase(it);
-    }
+    if (h)
+        handleMap().unbind(h, this);
     m_hObject = nullptr;
     return h;
 }
@@ -80,37 +71,17 @@ UINT CGdiObject::GetObjectType() const {
 }
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ h) {
-    if (!h)
-        return nullptr;
-    auto& perm = permanentMap();
-    auto p = perm.find(h);
-    if (p != perm.end())
-        return p->second;
-    UINT type = static_cast<UINT>(::GetObjectType(h));
-    auto& temps = tempMap();
-    auto t = temps.find(h);
+    const UINT type = h ? static_cast<UINT>(::GetObjectType(h)) : 0;
     // GDI reuses handle values: a temporary of another kind is made anew.
-    if (t != temps.end() && t->second->GetObjectType() == type)
-        return t->second.get();
-    std::unique_ptr<CGdiObject> temp = makeTemp(type);
-    // Set directly, not by Attach: a temporary is in no permanent map and owns nothing.
-    temp->m_hObject = h;
-    CGdiObject* result = temp.get();
-    if (t != temps.end()) {
-        t->second->m_hObject = nullptr;
-        t->second = std::move(temp);
-    } else {
-        temps.emplace(h, std::move(temp));
-    }
-    return result;
+    return handleMap().lookup(
+        h, [type] { return makeTemp(type); },
+        [type](const CGdiObject& temp) { return temp.GetObjectType() == type; });
 }
 
 void CGdiObject::DeleteTempMap() {
-    for (auto& t : tempMap())
-        t.second->m_hObject = nullptr; // borrowed: never deleted here
-    tempMap().clear();
+    handleMap().clearTemporaries();
 }
 
 int CGdiObject::TempMapSize() {
-    return static_cast<int>(tempMap().size());
+    return handleMap().temporaryCount();
 }

@@ -1,8 +1,8 @@
 #include "framework/wnd.h"
 
+#include "framework/handle_map.h"
 #include "framework/module_state.h"
 
-#include <map>
 #include <memory>
 
 namespace {
@@ -10,13 +10,10 @@ namespace {
 // Handle maps, the window being made and the message being handled. All of it
 // belongs to the host's user-interface thread; a window is only ever bound and
 // served on the thread that made it.
-std::map<HWND, CWnd*>& permanentMap() {
-    static std::map<HWND, CWnd*> map;
-    return map;
-}
+using WndMap = CHandleMap<HWND, CWnd, &CWnd::m_hWnd>;
 
-std::map<HWND, std::unique_ptr<CWnd>>& tempMap() {
-    static std::map<HWND, std::unique_ptr<CWnd>> map;
+WndMap& handleMap() {
+    static WndMap map;
     return map;
 }
 
@@ -116,13 +113,7 @@ BOOL CWnd::DestroyWindow() {
 
 void CWnd::bind(HWND hWnd) {
     m_hWnd = hWnd;
-    permanentMap()[hWnd] = this;
-    // A temporary of the same handle would answer FromHandle no more.
-    auto t = tempMap().find(hWnd);
-    if (t != tempMap().end()) {
-        t->second->m_hWnd = nullptr;
-        tempMap().erase(t);
-    }
+    handleMap().bind(hWnd, this);
 }
 
 void CWnd::unbind() {
@@ -142,11 +133,8 @@ BOOL CWnd::Attach(HWND hWnd) {
 
 HWND CWnd::Detach() {
     HWND hWnd = m_hWnd;
-    if (hWnd) {
-        auto it = permanentMap().find(hWnd);
-        if (it != permanentMap().end() && it->second == this)
-            permanentMap().erase(it);
-    }
+    if (hWnd)
+        handleMap().unbind(hWnd, this);
     m_hWnd = nullptr;
     return hWnd;
 }
@@ -179,31 +167,22 @@ HWND CWnd::UnsubclassWindow() {
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND hWnd) {
-    auto it = permanentMap().find(hWnd);
-    return it == permanentMap().end() ? nullptr : it->second;
+    return handleMap().permanent(hWnd);
 }
 
 CWnd* CWnd::FromHandle(HWND hWnd) {
-    if (!hWnd)
-        return nullptr;
-    if (CWnd* bound = FromHandlePermanent(hWnd))
-        return bound;
-    auto& temps = tempMap();
-    auto t = temps.find(hWnd);
-    if (t != temps.end())
-        return t->second.get();
-    auto temp = std::make_unique<CWnd>();
-    temp->m_hWnd = hWnd;
-    temp->m_temporary = true;
-    CWnd* result = temp.get();
-    temps.emplace(hWnd, std::move(temp));
-    return result;
+    return handleMap().lookup(
+        hWnd,
+        [] {
+            auto temp = std::make_unique<CWnd>();
+            temp->m_temporary = true;
+            return temp;
+        },
+        [](const CWnd&) { return true; });
 }
 
 void CWnd::DeleteTempMap() {
-    for (auto& t : tempMap())
-        t.second->m_hWnd = nullptr;
-    tempMap().clear();
+    handleMap().clearTemporaries();
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const {

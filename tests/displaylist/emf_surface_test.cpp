@@ -110,13 +110,43 @@ TEST(EmfSurface, PenIsCreatedSelectedAndDeletedOnFree) {
     EXPECT_EQ(recs[4].words[0], 1u);
 }
 
-TEST(EmfSurface, PenStillSelectedIsFreedBeforeTheEnd) {
+TEST(EmfSurface, BrushStillSelectedIsFreedBeforeTheEnd) {
     CQorEmfSurface emf;
-    emf.brushHollow();
+    emf.brushSolid(0x123456);
     const std::vector<Record> recs = records(emf.bytes());
     ASSERT_EQ(recs.size(), 6u);
-    EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{2, 1, 0, 0})); // BS_HOLLOW
+    EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{2, 0, 0x123456, 0})); // BS_SOLID
     EXPECT_EQ(recs[4].type, QOR::kEmrDeleteobject);
+}
+
+TEST(EmfSurface, HollowBrushIsTheStockObjectAndIsNeverDeleted) {
+    CQorEmfSurface emf;
+    emf.brushHollow();
+    emf.brushFree();
+    const std::vector<Record> recs = records(emf.bytes());
+    ASSERT_EQ(types(recs), (std::vector<std::uint32_t>{QOR::kEmrHeader, QOR::kEmrSelectobject,
+                                                       QOR::kEmrSelectobject, QOR::kEmrEof}));
+    EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{0x80000005u})); // NULL_BRUSH
+    EXPECT_EQ(recs[2].words, (std::vector<std::uint32_t>{0x80000000u})); // WHITE_BRUSH
+}
+
+TEST(EmfSurface, BoxesAreStoredInOrderWithInclusiveRightAndBottom) {
+    CQorEmfSurface emf;
+    emf.ellipse(26, 31, 24, 29);
+    emf.rectangle(5, 5, 9, 8);
+    const std::vector<Record> recs = records(emf.bytes());
+    ASSERT_EQ(recs.size(), 4u);
+    EXPECT_EQ(recs[1].type, QOR::kEmrEllipse);
+    EXPECT_EQ(recs[1].words, (std::vector<std::uint32_t>{24, 29, 25, 30}));
+    EXPECT_EQ(recs[2].type, QOR::kEmrRectangle);
+    EXPECT_EQ(recs[2].words, (std::vector<std::uint32_t>{5, 5, 8, 7}));
+}
+
+TEST(EmfSurface, EmptyBoxesAreNotRecorded) {
+    CQorEmfSurface emf;
+    emf.ellipse(3, 3, 3, 9);
+    emf.rectangle(1, 4, 8, 4);
+    EXPECT_EQ(emf.recordCount(), 0);
 }
 
 TEST(EmfSurface, SmallPolygonIsPolygon16) {
@@ -159,6 +189,20 @@ TEST(EmfSurface, PolygonRowsLeaveTheInnerRingOfAFrameOut) {
         {{0, 0}, {4, 0}, {4, 4}, {0, 4}, {0, 0}, {1, 1}, {1, 3}, {3, 3}, {3, 1}, {1, 1}});
     EXPECT_EQ(rows, (std::vector<int>{0, 0, 4, 1, 0, 1, 1, 2, 3, 1, 4, 2,
                                       0, 2, 1, 3, 3, 2, 4, 3, 0, 3, 4, 4}));
+}
+
+TEST(EmfSurface, RegionBandsJoinRowsWithTheSameSpans) {
+    // The frame of the test above: a full row, two rows of two spans, a full row.
+    const std::vector<int> rows = QOR::polygonRowRects(
+        {{0, 0}, {4, 0}, {4, 4}, {0, 4}, {0, 0}, {1, 1}, {1, 3}, {3, 3}, {3, 1}, {1, 1}});
+    EXPECT_EQ(QOR::regionBands(rows),
+              (std::vector<int>{0, 0, 4, 1, 0, 1, 1, 3, 3, 1, 4, 3, 0, 3, 4, 4}));
+}
+
+TEST(EmfSurface, RegionBandsKeepAGapBetweenRows) {
+    EXPECT_EQ(QOR::regionBands({0, 0, 5, 1, 0, 2, 5, 3}),
+              (std::vector<int>{0, 0, 5, 1, 0, 2, 5, 3}));
+    EXPECT_TRUE(QOR::regionBands({}).empty());
 }
 
 TEST(EmfSurface, RefreshWritesTheDocumentToAFile) {

@@ -62,25 +62,19 @@ TEST(Dll, IconTwoThousandLoadsInBothSizes) {
     DestroyIcon(small);
 }
 
-TEST(Dll, CursorTwoThousandSixLoadsWithItsHotSpotInTheMiddle) {
+TEST(Dll, PanCursorTwoThousandSixHasItsHotSpotInTheMiddle) {
     Loaded l;
     ASSERT_NE(l.dll, nullptr);
-    HCURSOR cursor = LoadCursorW(l.dll, MAKEINTRESOURCEW(2006));
-    ASSERT_NE(cursor, nullptr);
+    HCURSOR pan = LoadCursorW(l.dll, MAKEINTRESOURCEW(2006));
+    ASSERT_NE(pan, nullptr);
     ICONINFO info = {};
-    ASSERT_TRUE(GetIconInfo(cursor, &info));
+    ASSERT_TRUE(GetIconInfo(pan, &info));
     EXPECT_FALSE(info.fIcon);
-    EXPECT_EQ(info.xHotspot, 15u);
-    EXPECT_EQ(info.yHotspot, 15u);
-    // A monochrome cursor: the mask holds the AND and the XOR image, one above the other.
-    BITMAP bm = {};
-    GetObjectW(info.hbmMask, sizeof(bm), &bm);
-    EXPECT_EQ(bm.bmWidth, 32);
-    EXPECT_EQ(bm.bmHeight, 64);
+    EXPECT_EQ(info.xHotspot, 16u);
+    EXPECT_EQ(info.yHotspot, 16u);
     if (info.hbmColor)
         DeleteObject(info.hbmColor);
     DeleteObject(info.hbmMask);
-    DestroyCursor(cursor);
 }
 
 TEST(Dll, ExportedFunctionIsReachableByName) {
@@ -92,4 +86,61 @@ TEST(Dll, ExportedFunctionIsReachableByName) {
         reinterpret_cast<void*>(GetProcAddress(l.dll, "_Z20AfxGetResourceHandlev")));
     ASSERT_NE(fn, nullptr);
     EXPECT_EQ(fn(), l.dll);
+}
+
+namespace {
+
+// The colour of pixel (x, y) of a 32 px icon of the DLL drawn on magenta:
+// 0x00RRGGBB, or 0xFF00FF where the icon is transparent.
+DWORD iconPixel(HMODULE dll, int id, int x, int y) {
+    HICON icon = static_cast<HICON>(LoadImageW(dll, MAKEINTRESOURCEW(id), IMAGE_ICON, 32, 32, 0));
+    if (!icon)
+        return 0xFFFFFFFF;
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    info.bmiHeader.biWidth = 32;
+    info.bmiHeader.biHeight = -32;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    HDC dc = CreateCompatibleDC(nullptr);
+    void* raw = nullptr;
+    HBITMAP bmp = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
+    HGDIOBJ old = SelectObject(dc, bmp);
+    HBRUSH magenta = CreateSolidBrush(RGB(255, 0, 255));
+    RECT all = {0, 0, 32, 32};
+    FillRect(dc, &all, magenta);
+    DrawIconEx(dc, 0, 0, icon, 32, 32, 0, nullptr, DI_NORMAL);
+    GdiFlush();
+    const DWORD px = static_cast<DWORD*>(raw)[y * 32 + x] & 0xFFFFFF;
+    SelectObject(dc, old);
+    DeleteObject(bmp);
+    DeleteObject(magenta);
+    DeleteDC(dc);
+    DestroyIcon(icon);
+    return px;
+}
+
+} // namespace
+
+TEST(Dll, MaterialTreeIconsShowAGroupABlockAndAShadowBlock) {
+    Loaded l;
+    ASSERT_NE(l.dll, nullptr);
+    // 2001: the front sheet is light grey, the corner above it transparent.
+    EXPECT_EQ(iconPixel(l.dll, 2001, 10, 20), 0xD7D7D7u);
+    EXPECT_EQ(iconPixel(l.dll, 2001, 1, 1), 0xFF00FFu);
+    // 2002: the block's front face in steel blue.
+    EXPECT_EQ(iconPixel(l.dll, 2002, 10, 20), 0x46608Cu);
+    // 2003: the shadow block is pale where 2002 is steel.
+    EXPECT_EQ(iconPixel(l.dll, 2003, 10, 21), 0xB9C3D2u);
+    EXPECT_EQ(iconPixel(l.dll, 2003, 0, 31), 0xFF00FFu);
+}
+
+TEST(Dll, LabelIconsDifferInTheirNumberOfLines) {
+    Loaded l;
+    ASSERT_NE(l.dll, nullptr);
+    // Both tags carry the middle line; only the multi-line one has a first line.
+    EXPECT_EQ(iconPixel(l.dll, 2004, 20, 15), 0x282828u);
+    EXPECT_EQ(iconPixel(l.dll, 2005, 20, 15), 0x282828u);
+    EXPECT_EQ(iconPixel(l.dll, 2004, 20, 11), 0xFAF8EBu);
+    EXPECT_EQ(iconPixel(l.dll, 2005, 20, 11), 0x282828u);
 }

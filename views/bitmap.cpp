@@ -1,0 +1,195 @@
+#include "views/bitmap.h"
+
+#include "displaylist/gdi_surface.h"
+#include "displaylist/picture_loader.h"
+#include "foundation/app_file_name.h"
+#include "foundation/app_files.h"
+#include "foundation/qor_map_templ.h"
+
+namespace {
+
+constexpr DWORD kRopAnd = 0x8800C6;    // SRCAND
+constexpr DWORD kRopXor = 0x660046;    // SRCINVERT
+constexpr DWORD kRopInvert = 0x550009; // DSTINVERT
+constexpr DWORD kRopCopy = 0xCC0020;   // SRCCOPY
+
+void fillSolid(HDC dc, int w, int h, COLORREF color) {
+    const COLORREF old = SetBkColor(dc, color);
+    RECT r = {0, 0, w, h};
+    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &r, nullptr, 0, nullptr);
+    SetBkColor(dc, old);
+}
+
+// Icon or bitmap of a file: found along the application's paths, judged by the
+// ending of what was found, loaded from name as given.
+HANDLE loadFromFile(const CQorString& name, int width, int height, bool& isIcon) {
+    CQorString found;
+    if (!QOR::fileFind(found, name.c_str()) || found.len() <= 4)
+        return nullptr;
+    found.makeLower();
+    const CQorString ending = found.mid(static_cast<unsigned>(found.len() - 4), 4);
+    if (ending == L".ico") {
+        isIcon = true;
+        return LoadImageW(nullptr, name.c_str(), IMAGE_ICON, width, height, LR_LOADFROMFILE);
+    }
+    if (ending == L".bmp")
+        return LoadImageW(nullptr, name.c_str(), IMAGE_BITMAP, width, height, LR_LOADFROMFILE);
+    return nullptr;
+}
+
+HICON loadByNumber(int number, int width, int height) {
+    HICON icon = LoadIconW(nullptr, MAKEINTRESOURCEW(number & 0xFFFF));
+    if (icon)
+        return icon;
+    CQorString self;
+    QOR::appFileName(self, L"Qor", L"Mfc", L"Dll");
+    HMODULE module = GetModuleHandleW(self.c_str());
+    if (!module)
+        return nullptr;
+    return static_cast<HICON>(
+        LoadImageW(module, MAKEINTRESOURCEW(number & 0xFFFF), IMAGE_ICON, width, height, 0));
+}
+
+// The icon drawn on bkColor: result = bk AND mask, then XOR the colour image with
+// its transparent part blacked out by the inverted mask.
+HBITMAP flattenIcon(HICON icon, COLORREF bkColor) {
+    HDC display = CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr);
+    HDC mem = display ? CreateCompatibleDC(display) : nullptr;
+    if (!display || !mem) {
+        if (display)
+            DeleteDC(display);
+        DestroyIcon(icon);
+        return nullptr;
+    }
+    HBITMAP result = nullptr;
+    ICONINFO info = {};
+    if (GetIconInfo(icon, &info)) {
+        int w = 32, h = 32;
+        BITMAP bm = {};
+        if (info.hbmColor && GetObjectW(info.hbmColor, sizeof(bm), &bm)) {
+            w = bm.bmWidth;
+            h = bm.bmHeight;
+        } else if (info.hbmMask && GetObjectW(info.hbmMask, sizeof(bm), &bm)) {
+            // Mask and image stacked in one bitmap.
+            w = bm.bmWidth;
+            h = static_cast<int>(bm.bmHeight * 0.5);
+        }
+        result = CreateCompatibleBitmap(display, w, h);
+        HGDIOBJ oldResult = SelectObject(mem, result);
+        fillSolid(mem, w, h, bkColor);
+        HDC maskDc = CreateCompatibleDC(display);
+        HDC colorDc = CreateCompatibleDC(display);
+        HGDIOBJ oldMask = SelectObject(maskDc, info.hbmMask);
+        HGDIOBJ oldColor = SelectObject(colorDc, info.hbmColor);
+        BitBlt(mem, 0, 0, w, h, maskDc, 0, 0, kRopAnd);
+        BitBlt(maskDc, 0, 0, w, h, maskDc, 0, 0, kRopInvert);
+        BitBlt(colorDc, 0, 0, w, h, maskDc, 0, 0, kRopAnd);
+        BitBlt(mem, 0, 0, w, h, colorDc, 0, 0, kRopXor);
+        SelectObject(maskDc, oldMask);
+        SelectObject(colorDc, oldColor);
+        SelectObject(mem, oldResult);
+        DeleteDC(maskDc);
+        DeleteDC(colorDc);
+        if (info.hbmColor)
+            DeleteObject(info.hbmColor);
+        if (info.hbmMask)
+            DeleteObject(info.hbmMask);
+    }
+    DestroyIcon(icon);
+    DeleteDC(mem);
+    DeleteDC(display);
+    return result;
+}
+
+// The loader of picture items for both painters: the bitmap as pixels.
+bool loadPicture(const CQorString& name, int number, int width, int height, bool transparent,
+                 unsigned long back, QOR::DeviceBitmap& out) {
+    bool t = transparent;
+    HBITMAP bitmap = qor_gdx_image_get_bitmap(name, number, width, height, t, back);
+    if (!bitmap)
+        return false;
+    const bool ok = QOR::deviceBitmapFromHandle(bitmap, out);
+    DeleteObject(bitmap);
+    return ok;
+}
+
+// Every painter made after the library is loaded draws picture items.
+const bool g_loaderInstalled = (QOR::pictureLoaderDefaultSet(loadPicture), true);
+
+} // namespace
+
+HBITMAP qor_gdx_image_get_bitmap(const CQorString& name, int number, int width, int height,
+                                 bool& transparent, unsigned long bkColor) {
+    HANDLE loaded = nullptr;
+    bool isIcon = false;
+    if (name.len() > 0) {
+        loaded = loadFromFile(name, width, height, isIcon);
+    } else {
+        loaded = loadByNumber(number, width, height);
+        isIcon = true;
+    }
+    if (!loaded)
+        return nullptr;
+    if (!isIcon)
+        return static_cast<HBITMAP>(loaded);
+    transparent = false;
+    return flattenIcon(static_cast<HICON>(loaded), static_cast<COLORREF>(bkColor & 0xFFFFFF));
+}
+
+namespace QOR {
+
+unsigned long bitmapBkColorVote(HDC dc, int width, int height) {
+    const int w = width, h = height;
+    const POINT samples[5] = {{0, 0},
+                              {w - 1, 0},
+                              {0, h - 1},
+                              {static_cast<int>((w - 1) / 2.0), static_cast<int>((h - 1) / 2.0)},
+                              {w - 1, h - 1}};
+    CQorMapTempl<unsigned long, int> tally;
+    for (const POINT& p : samples) {
+        const unsigned long c = GetPixel(dc, p.x, p.y);
+        int* n = tally.lookup(c);
+        if (n)
+            ++*n;
+        else
+            tally.setAt(c, 1);
+    }
+    unsigned long best = 0;
+    int most = 0;
+    for (int k = 0; k < tally.len(); ++k) {
+        if (tally.valueAt(k) > most) {
+            most = tally.valueAt(k);
+            best = tally.keyAt(k);
+        }
+    }
+    return best;
+}
+
+void bitmapDrawTransparent(HDC dc, int x, int y, HBITMAP bitmap) {
+    const COLORREF oldBk = SetBkColor(dc, RGB(255, 255, 255));
+    const COLORREF oldText = SetTextColor(dc, RGB(0, 0, 0));
+    HDC image = CreateCompatibleDC(dc);
+    HDC mask = CreateCompatibleDC(dc);
+    HGDIOBJ oldImage = SelectObject(image, bitmap);
+    BITMAP bm = {};
+    GetObjectW(bitmap, sizeof(bm), &bm);
+    const int w = bm.bmWidth, h = bm.bmHeight;
+    const unsigned long bk = bitmapBkColorVote(image, w, h);
+    HBITMAP maskBitmap = CreateBitmap(w, h, 1, 1, nullptr);
+    HGDIOBJ oldMask = SelectObject(mask, maskBitmap);
+    // Copied to one bit per pixel, the pixels of the background colour give 1.
+    SetBkColor(image, static_cast<COLORREF>(bk));
+    BitBlt(mask, 0, 0, w, h, image, 0, 0, kRopCopy);
+    BitBlt(dc, x, y, w, h, image, 0, 0, kRopXor);
+    BitBlt(dc, x, y, w, h, mask, 0, 0, kRopAnd);
+    BitBlt(dc, x, y, w, h, image, 0, 0, kRopXor);
+    SelectObject(mask, oldMask);
+    SelectObject(image, oldImage);
+    DeleteObject(maskBitmap);
+    DeleteDC(mask);
+    DeleteDC(image);
+    SetBkColor(dc, oldBk);
+    SetTextColor(dc, oldText);
+}
+
+} // namespace QOR

@@ -1,0 +1,35 @@
+// Bitmap previews of picture items, and drawing a bitmap with its background
+// colour left out. Windows only.
+#pragma once
+
+#include <windows.h>
+
+#include "foundation/qor_export.h"
+#include "foundation/qor_string.h"
+
+// The picture named by a picture item as a bitmap of the display's colour depth,
+// owned by the caller (DeleteObject); null when there is none.
+// - A non-empty name is a file found along the application's paths: ".ico" is
+//   loaded as an icon and ".bmp" as a bitmap at width by height, judged by the
+//   lower-cased ending of the path found; any other ending gives null. The loader
+//   is handed name as it came, so a file found elsewhere than name says does not
+//   load.
+// - An empty name takes number: the system icon number & 0xFFFF, else icon number
+//   from this library's own resources, at width by height.
+// - An icon is flattened onto bkColor (its transparent pixels take that colour)
+//   at its own size, and transparent is cleared; for a bitmap it is left alone.
+QOR_API HBITMAP qor_gdx_image_get_bitmap(const CQorString& name, int number, int width, int height,
+                                         bool& transparent, unsigned long bkColor);
+
+namespace QOR {
+
+// The background colour of the bitmap selected into dc, of width by height: the
+// vote of five pixels (the four corners and the middle; a colour's count is its
+// number of samples); on a tie the lowest colour value wins.
+QOR_API unsigned long bitmapBkColorVote(HDC dc, int width, int height);
+
+// Draws bitmap at x, y on dc, leaving out the pixels of its background colour (the
+// vote above) by three raster copies through a one-bit mask.
+QOR_API void bitmapDrawTransparent(HDC dc, int x, int y, HBITMAP bitmap);
+
+} // namespace QOR
