@@ -279,32 +279,16 @@ TEST_F(PictureTest, CopyPutsThePictureAtItsNaturalSizeOnTheClipboard) {
     HENHMETAFILE mf = wintest::clipboardMetafile();
     ASSERT_NE(mf, nullptr);
     EXPECT_FALSE(wintest::records(mf).empty());
-    {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = 40;
-        info.bmiHeader.biHeight = -20;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        HDC dc = CreateCompatibleDC(nullptr);
-        void* raw = nullptr;
-        HBITMAP bmp = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
-        HGDIOBJ old = SelectObject(dc, bmp);
-        ENHMETAHEADER head = {};
-        GetEnhMetaFileHeader(mf, sizeof head, &head);
-        const RECT all = {head.rclBounds.left, head.rclBounds.top, head.rclBounds.right + 1,
-                          head.rclBounds.bottom + 1};
-        EXPECT_EQ(all.right - all.left, 40);
-        EXPECT_EQ(all.bottom - all.top, 20);
-        PlayEnhMetaFile(dc, mf, &all);
-        GdiFlush();
-        const DWORD* bits = static_cast<const DWORD*>(raw);
-        EXPECT_EQ(bits[10 * 40 + 5] & 0xFFFFFF, 0xFF0000u) << "red on the left";
-        EXPECT_EQ(bits[10 * 40 + 35] & 0xFFFFFF, 0x0000FFu) << "blue on the right";
-        SelectObject(dc, old);
-        DeleteObject(bmp);
-        DeleteDC(dc);
-    }
+    ENHMETAHEADER head = {};
+    GetEnhMetaFileHeader(mf, sizeof head, &head);
+    const RECT all = {head.rclBounds.left, head.rclBounds.top, head.rclBounds.right + 1,
+                      head.rclBounds.bottom + 1};
+    EXPECT_EQ(all.right - all.left, 40);
+    EXPECT_EQ(all.bottom - all.top, 20);
+    TestDib dib(40, 20);
+    PlayEnhMetaFile(dib.dc, mf, &all);
+    EXPECT_EQ(dib.ref(5, 10), kRed);
+    EXPECT_EQ(dib.ref(35, 10), kBlue);
     DeleteEnhMetaFile(mf);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/wnd.h"
+#include "tests/framework/test_dib.h"
 
 #include <windows.h>
 
@@ -76,40 +77,22 @@ inline int countOf(const std::vector<Record>& recs, DWORD type) {
 }
 
 // The client area of a window as it was painted: its paint is run now and the
-// window's pixels are copied into a 32-bit top-down DIB, read as 0x00BBGGRR.
+// window's pixels are copied into a DIB, read as 0x00BBGGRR.
 struct WindowPixels {
-    int width = 0, height = 0;
-    std::vector<COLORREF> px;
-    explicit WindowPixels(HWND wnd) {
+    static RECT clientOf(HWND wnd) {
         RedrawWindow(wnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
         RECT rc = {};
         GetClientRect(wnd, &rc);
-        width = rc.right;
-        height = rc.bottom;
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        info.bmiHeader.biCompression = BI_RGB;
-        HDC mem = CreateCompatibleDC(nullptr);
-        void* raw = nullptr;
-        HBITMAP bmp = CreateDIBSection(mem, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
-        HGDIOBJ old = SelectObject(mem, bmp);
-        HDC src = GetDC(wnd);
-        BitBlt(mem, 0, 0, width, height, src, 0, 0, SRCCOPY);
-        ReleaseDC(wnd, src);
-        GdiFlush();
-        const DWORD* bits = static_cast<const DWORD*>(raw);
-        px.resize(static_cast<size_t>(width) * height);
-        for (size_t k = 0; bits && k < px.size(); ++k)
-            px[k] = RGB((bits[k] >> 16) & 0xFF, (bits[k] >> 8) & 0xFF, bits[k] & 0xFF);
-        SelectObject(mem, old);
-        DeleteObject(bmp);
-        DeleteDC(mem);
+        return rc;
     }
-    COLORREF at(int x, int y) const { return px[static_cast<size_t>(y) * width + x]; }
+    explicit WindowPixels(HWND wnd) : WindowPixels(wnd, clientOf(wnd)) {}
+    WindowPixels(HWND wnd, const RECT& rc) : dib(rc.right, rc.bottom) {
+        HDC src = GetDC(wnd);
+        BitBlt(dib.dc, 0, 0, rc.right, rc.bottom, src, 0, 0, SRCCOPY);
+        ReleaseDC(wnd, src);
+    }
+    COLORREF at(int x, int y) const { return dib.ref(x, y); }
+    TestDib dib;
 };
 
 // The clipboard's enhanced metafile (format 14) copied, or null when there is none.
