@@ -459,25 +459,10 @@ TEST(ItemPainterScreen, HatchNeedingNinetyFiveRowsTurnsSolid) {
 
 // --- Text.
 
-namespace {
-CQorDisplayItem twoGlyphs() {
-    CQorDisplayItem item;
-    item.type = GDX_TXT;
-    item.color = indexed(1);
-    item.linetype = pattern({1.0});
-    CQorArrayTempl<CQorVertexArray> ring;
-    ring.append(rect(10, 10, 30, 30));
-    ring.append(rect(15, 15, 20, 20));
-    item.regionList.append(ring);
-    item.regionList.append(region(rect(40, 10, 50, 30)));
-    return item;
-}
-} // namespace
-
 TEST(ItemPainterScreen, GlyphHoleStaysClearAndTheNextGlyphIsNotClipped) {
     CQorGDX gdx = fittedDoc();
     CQorArrayTempl<CQorDisplayItem> items;
-    items.append(twoGlyphs());
+    items.append(glyphItem());
     ASSERT_TRUE(gdx.addDisplayList(items));
     const Calls calls = screen(gdx);
     Calls clips;

@@ -277,21 +277,6 @@ TEST(ItemPainter, HiddenItemDrawsNothing) {
     EXPECT_EQ(paint(gdx), (Calls{"clip 0 0 110 110"}));
 }
 
-namespace {
-CQorDisplayItem glyphItem() {
-    CQorDisplayItem item;
-    item.type = GDX_TXT;
-    item.color = indexed(1);
-    item.linetype = pattern({1.0});
-    CQorArrayTempl<CQorVertexArray> ring;
-    ring.append(rect(10, 10, 30, 30));
-    ring.append(rect(15, 15, 20, 20));
-    item.regionList.append(ring);
-    item.regionList.append(region(rect(40, 10, 50, 30)));
-    return item;
-}
-} // namespace
-
 TEST(ItemPainter, GlyphHoleClipsOnlyItsOwnGlyph) {
     CQorGDX gdx = boxDoc();
     CQorArrayTempl<CQorDisplayItem> items;

@@ -68,3 +68,18 @@ inline Calls callsStarting(const Calls& calls, const std::string& prefix) {
             out.push_back(c);
     return out;
 }
+
+// Two glyph entries of a text item: a ring (outer square with a square hole), then
+// a bar.
+inline CQorDisplayItem glyphItem() {
+    CQorDisplayItem item;
+    item.type = GDX_TXT;
+    item.color = indexed(1);
+    item.linetype = pattern({1.0});
+    CQorArrayTempl<CQorVertexArray> ring;
+    ring.append(rect(10, 10, 30, 30));
+    ring.append(rect(15, 15, 20, 20));
+    item.regionList.append(ring);
+    item.regionList.append(region(rect(40, 10, 50, 30)));
+    return item;
+}

@@ -11,6 +11,7 @@
 using slidetest::Bytes;
 using slidetest::CRecordingSink;
 using slidetest::level2Header;
+using slidetest::putVertex;
 using slidetest::putWord;
 
 namespace {
@@ -302,16 +303,6 @@ TEST(SlideDecoder, CoordinateArithmeticWrapsAt16Bits) {
               (std::vector<std::string>{"L 32767 32767 0 0", "L -32768 -32768 -32642 -32642",
                                         "L -32768 -32768 32767 32640"}));
 }
-
-namespace {
-
-void putVertex(Bytes& b, int x, int y) {
-    putWord(b, 0);
-    putWord(b, x);
-    putWord(b, y);
-}
-
-} // namespace
 
 TEST(SlideDecoder, SolidFillOfFullRunSkipsTheClosingRecord) {
     Bytes b = level2Header();

@@ -15,6 +15,8 @@
 
 using slidetest::Bytes;
 using slidetest::level2Header;
+using slidetest::putVector;
+using slidetest::putVertex;
 using slidetest::putWord;
 
 namespace {
@@ -24,19 +26,6 @@ namespace {
 constexpr int kClientW = 101;
 constexpr int kClientH = 81;
 constexpr UINT kSlideId = 301;
-
-void putVector(Bytes& b, int x0, int y0, int x1, int y1) {
-    putWord(b, x0);
-    putWord(b, y0);
-    putWord(b, x1);
-    putWord(b, y1);
-}
-
-void putVertex(Bytes& b, int x, int y) {
-    putWord(b, 0);
-    putWord(b, x);
-    putWord(b, y);
-}
 
 // Red line at window row 40, colour 7 line at window row 60, green box from (50, 10)
 // to (80, 30).
