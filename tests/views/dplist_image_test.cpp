@@ -398,7 +398,7 @@ TEST_F(DplistImageTest, ALeftClickPostsTheTopLevelGroupUnderTheControlsId) {
     CQorGDX gdx = twoSquares();
     image.set_dpList(&gdx);
     image.zoomExtents();
-    wheel(120, 100, 50); // picking follows the zoom
+    wheel(120, 100, 50);                     // picking follows the zoom
     const CPoint p = deviceOf(gdx, 100, 20); // on the right edge of the second
     send(WM_LBUTTONDOWN, MK_LBUTTON, p.x, p.y);
     // Posted, not sent: nothing has arrived before the queue runs.
