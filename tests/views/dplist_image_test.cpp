@@ -75,19 +75,11 @@ CPoint deviceOf(const CQorGDX& gdx, double x, double y) {
 class DplistImageTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(parent.CreateEx(0, nullptr, L"parent", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                    CRect(0, 0, 400, 300), nullptr, 0));
-        ASSERT_TRUE(image.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kW, kH), &parent,
-                                 kPictureId));
+        ASSERT_TRUE(createPicture(parent, image, kW, kH));
         pumpSome();
         parent.picks.clear();
     }
-    void TearDown() override {
-        image.DestroyWindow();
-        parent.DestroyWindow();
-        pumpSome();
-        CWnd::DeleteTempMap();
-    }
+    void TearDown() override { destroyPicture(parent, image); }
     void send(UINT msg, WPARAM w, int x, int y) { image.SendMessage(msg, w, MAKELPARAM(x, y)); }
     void click(int x, int y) {
         send(WM_LBUTTONDOWN, MK_LBUTTON, x, y);
@@ -398,7 +390,7 @@ TEST_F(DplistImageTest, ALeftClickPostsTheTopLevelGroupUnderTheControlsId) {
     CQorGDX gdx = twoSquares();
     image.set_dpList(&gdx);
     image.zoomExtents();
-    wheel(120, 100, 50); // picking follows the zoom
+    wheel(120, 100, 50);                     // picking follows the zoom
     const CPoint p = deviceOf(gdx, 100, 20); // on the right edge of the second
     send(WM_LBUTTONDOWN, MK_LBUTTON, p.x, p.y);
     // Posted, not sent: nothing has arrived before the queue runs.
