@@ -26,18 +26,11 @@ CPoint px(double x, double y) {
 class DplistImagePaintTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(parent.CreateEx(0, nullptr, L"parent", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                    CRect(0, 0, 300, 300), nullptr, 0));
-        ASSERT_TRUE(image.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kSide, kSide),
-                                 &parent, kPictureId));
+        ASSERT_TRUE(createPicture(parent, image, kSide, kSide));
         pumpSome();
+        parent.picks.clear();
     }
-    void TearDown() override {
-        image.DestroyWindow();
-        parent.DestroyWindow();
-        pumpSome();
-        CWnd::DeleteTempMap();
-    }
+    void TearDown() override { destroyPicture(parent, image); }
     // Attaches and fits gdx, paints and reads the client area back.
     void show(CQorGDX& gdx) {
         image.set_dpList(&gdx);

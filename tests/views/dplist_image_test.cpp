@@ -75,19 +75,11 @@ CPoint deviceOf(const CQorGDX& gdx, double x, double y) {
 class DplistImageTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(parent.CreateEx(0, nullptr, L"parent", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                    CRect(0, 0, 400, 300), nullptr, 0));
-        ASSERT_TRUE(image.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kW, kH), &parent,
-                                 kPictureId));
+        ASSERT_TRUE(createPicture(parent, image, kW, kH));
         pumpSome();
         parent.picks.clear();
     }
-    void TearDown() override {
-        image.DestroyWindow();
-        parent.DestroyWindow();
-        pumpSome();
-        CWnd::DeleteTempMap();
-    }
+    void TearDown() override { destroyPicture(parent, image); }
     void send(UINT msg, WPARAM w, int x, int y) { image.SendMessage(msg, w, MAKELPARAM(x, y)); }
     void click(int x, int y) {
         send(WM_LBUTTONDOWN, MK_LBUTTON, x, y);

@@ -27,6 +27,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+// A visible top-level parent of 400 by 300 and, in its upper left corner, picture
+// as its child of width by height with the id kPictureId. False if either fails.
+inline bool createPicture(CTestParent& parent, CWnd& picture, int width, int height) {
+    return parent.CreateEx(0, nullptr, L"parent", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                           CRect(0, 0, 400, 300), nullptr, 0) &&
+           picture.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &parent,
+                          kPictureId);
+}
+
 // Dispatches what waits in the queue, at most limit messages: a window that leaves
 // its paint invalid would otherwise get WM_PAINT for ever.
 inline void pumpSome(int limit = 200) {
@@ -35,6 +44,14 @@ inline void pumpSome(int limit = 200) {
         TranslateMessage(&msg);
         DispatchMessageW(&msg);
     }
+}
+
+// Destroys both windows and lets their last messages run.
+inline void destroyPicture(CTestParent& parent, CWnd& picture) {
+    picture.DestroyWindow();
+    parent.DestroyWindow();
+    pumpSome();
+    CWnd::DeleteTempMap();
 }
 
 // The client area of a window as it is on the screen now, into dib.

@@ -31,18 +31,11 @@ CQorArrayTempl<CQorVertexArray> twoArrays() {
 class VllImageTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(parent.CreateEx(0, nullptr, L"parent", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
-                                    CRect(0, 0, 400, 300), nullptr, 0));
-        ASSERT_TRUE(view.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kW, kH), &parent,
-                                kPictureId));
+        ASSERT_TRUE(createPicture(parent, view, kW, kH));
         pumpSome();
+        parent.picks.clear();
     }
-    void TearDown() override {
-        view.DestroyWindow();
-        parent.DestroyWindow();
-        pumpSome();
-        CWnd::DeleteTempMap();
-    }
+    void TearDown() override { destroyPicture(parent, view); }
     CTestParent parent;
     CProbeVll view;
 };
