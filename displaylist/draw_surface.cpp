@@ -53,6 +53,7 @@ void CQorRecordingSurface::polygon(const std::vector<DevicePoint>& pts) {
     m_calls.back().pts = pts;
 }
 void CQorRecordingSurface::bkColorSet(unsigned long color) {
+    m_bk = color;
     add(DrawOp::BkColor, 0, 0, 0, 0, color);
 }
 void CQorRecordingSurface::setPixel(int x, int y, unsigned long color) {

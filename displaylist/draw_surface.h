@@ -62,6 +62,8 @@ public:
     virtual void polyFillModeSet(int mode) = 0;
     virtual void polygon(const std::vector<DevicePoint>& pts) = 0;
     virtual void bkColorSet(unsigned long color) = 0;
+    // The present background colour (GDI: GetBkColor); a new device has white.
+    virtual unsigned long bkColorGet() const = 0;
     virtual void setPixel(int x, int y, unsigned long color) = 0;
     virtual void fillSolidRect(int x1, int y1, int x2, int y2, unsigned long color) = 0;
 
@@ -118,6 +120,9 @@ public:
     void polyFillModeSet(int mode) override;
     void polygon(const std::vector<DevicePoint>& pts) override;
     void bkColorSet(unsigned long color) override;
+    // The colour of the last bkColorSet, white before any; reading it is not a call
+    // of its own in the list.
+    unsigned long bkColorGet() const override { return m_bk; }
     void setPixel(int x, int y, unsigned long color) override;
     void fillSolidRect(int x1, int y1, int x2, int y2, unsigned long color) override;
     void clipRect(int x1, int y1, int x2, int y2) override;
@@ -134,6 +139,7 @@ public:
 private:
     void add(DrawOp op, int a, int b, int c, int d, unsigned long color);
     std::vector<DrawCall> m_calls;
+    unsigned long m_bk = 0xFFFFFFul;
 };
 
 } // namespace QOR

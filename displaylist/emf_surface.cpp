@@ -214,6 +214,7 @@ void CQorEmfSurface::polygon(const std::vector<DevicePoint>& pts) {
 }
 
 void CQorEmfSurface::bkColorSet(unsigned long color) {
+    m_bk = color & 0xFFFFFFul;
     begin(kEmrSetbkcolor, 12);
     u32(static_cast<std::uint32_t>(color & 0xFFFFFFul));
 }

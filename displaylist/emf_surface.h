@@ -54,6 +54,7 @@ public:
     void polyFillModeSet(int mode) override;
     void polygon(const std::vector<DevicePoint>& pts) override;
     void bkColorSet(unsigned long color) override;
+    unsigned long bkColorGet() const override { return m_bk; }
     void setPixel(int x, int y, unsigned long color) override;
     void fillSolidRect(int x1, int y1, int x2, int y2, unsigned long color) override;
     void clipRect(int x1, int y1, int x2, int y2) override;
@@ -86,6 +87,7 @@ private:
     bool m_brush = false;
     bool m_brushStock = false; // the stock hollow brush is selected
     bool m_empty = true;
+    unsigned long m_bk = 0xFFFFFFul;
     int m_minX = 0, m_minY = 0, m_maxX = -1, m_maxY = -1;
 };
 

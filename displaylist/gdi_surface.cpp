@@ -110,6 +110,10 @@ void CQorGdiSurface::bkColorSet(unsigned long color) {
     SetBkColor(m_dc, colorRef(color));
 }
 
+unsigned long CQorGdiSurface::bkColorGet() const {
+    return ::GetBkColor(m_dc);
+}
+
 void CQorGdiSurface::setPixel(int x, int y, unsigned long color) {
     SetPixelV(m_dc, x, y, colorRef(color));
 }

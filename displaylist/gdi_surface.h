@@ -33,6 +33,8 @@ public:
     void polyFillModeSet(int mode) override;
     void polygon(const std::vector<DevicePoint>& pts) override;
     void bkColorSet(unsigned long color) override;
+    // The context's own background colour (GetBkColor).
+    unsigned long bkColorGet() const override;
     void setPixel(int x, int y, unsigned long color) override;
     // A pattern copy with a solid brush of the colour; a brush selected before is
     // freed, as on the metafile surface of the native build.

@@ -11,3 +11,6 @@
 #define IDI_QOR_2003 2003 // material tree: a usable shadow material
 #define IDI_QOR_2004 2004 // label list: a single-line label
 #define IDI_QOR_2005 2005 // label list: a multi-line label
+
+// Cursors
+#define IDC_QOR_2006 2006 // display list window: panning with the middle button

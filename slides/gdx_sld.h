@@ -5,6 +5,10 @@
 #include "foundation/qor_obj.h"
 #include "slides/slide_decoder.h"
 
+#if defined(_WIN32)
+#include "slides/slide_pic.h"
+#endif
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,7 +18,16 @@ class CQorDataItem;
 
 namespace QOR {
 
-class QOR_API CGdxSld : public CQorObj {
+#if defined(_WIN32)
+// On Windows a display-list slide is a kind of slide window (one that is never
+// created); it keeps its own bytes and decoder, so the window's test word and slide
+// are untouched by it.
+using CGdxSldBase = CSlidePic;
+#else
+using CGdxSldBase = CQorObj;
+#endif
+
+class QOR_API CGdxSld : public CGdxSldBase {
 public:
     // Drops any slide, then reads slide name out of the library file lib (lib not
     // null) or the slide file name (lib null). The name is looked up as narrow text

@@ -68,6 +68,7 @@ bool CSlideDecoder::decode(const std::uint8_t* data, std::size_t size, ISlideSin
         m_width = static_cast<std::uint16_t>((head[19] << 8) | head[20]);
         m_height = static_cast<std::uint16_t>((head[21] << 8) | head[22]);
     }
+    sink.slideHeader(m_width, m_height);
 
     CRecordReader rec(in, m_testWord == kSlideTestBig);
     int lastX = 0;

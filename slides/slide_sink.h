@@ -14,6 +14,12 @@ struct SlidePoint {
 class ISlideSink {
 public:
     virtual ~ISlideSink() = default;
+    // The header was read: high X and high Y by the byte order rule. Called once per
+    // decoding, before any record, and only for a level the decoder reads.
+    virtual void slideHeader(int highX, int highY) {
+        (void)highX;
+        (void)highY;
+    }
     // A line of any of the three vector kinds, from (x0, y0) to (x1, y1).
     virtual void slideLine(int x0, int y0, int x1, int y1) = 0;
     // A solid fill; the last point repeats the first, so count is at least 2.

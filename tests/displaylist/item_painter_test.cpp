@@ -1,6 +1,6 @@
 // The item painter on the recording surface: exact calls in device integers.
 #include "displaylist/item_painter.h"
-#include "gdx_test_util.h"
+#include "painter_test_util.h"
 
 #include <gtest/gtest.h>
 
@@ -13,65 +13,14 @@
 using QOR::CQorItemPainter;
 using QOR::CQorPaintPolicy;
 using QOR::CQorRecordingSurface;
-using Calls = std::vector<std::string>;
 
 namespace {
-
-// The view box (0,0)-(100,100) in a 110 by 110 output: margin 5 on each side at
-// scale 1, so a point (x, y) lands on (x + 5, 105 - y).
-CQorGDX boxDoc() {
-    CQorGDX gdx = plainDoc();
-    gdx.extMaxViewSet(CQorPoint3d(0, 0, 0), CQorPoint3d(100, 100, 0));
-    return gdx;
-}
-
-CQorColor ole(unsigned long bgr) {
-    CQorColor c;
-    c.setOleColor(bgr);
-    return c;
-}
-
-CQorArrayTempl<double> pattern(std::initializer_list<double> values) {
-    CQorArrayTempl<double> out;
-    for (double v : values)
-        out.append(v);
-    return out;
-}
-
-void addVl(CQorGDX& gdx, const CQorVertexArray& vl, const CQorColor& color,
-           const CQorArrayTempl<double>& lt = CQorArrayTempl<double>(), unsigned long flag = 0,
-           const CQorPoint3d& anchor = CQorPoint3d()) {
-    gdx.imageVl(path({1}), flag, vl, color, CQorMatrix3d(), lt, 1.0, 1, anchor);
-}
 
 Calls paint(CQorGDX& gdx, int h = 110, int w = 110) {
     CQorRecordingSurface rec;
     CQorItemPainter painter(rec, CQorPaintPolicy::metafile());
     painter.paint(gdx, h, w);
     return rec.text();
-}
-
-// The calls between the item's pen and the pen's release, the first item only.
-Calls itemCalls(const Calls& all) {
-    Calls out;
-    bool in = false;
-    for (const std::string& c : all) {
-        if (!in && c.rfind("pen ", 0) == 0 && c != "pen free") {
-            in = true;
-            out.push_back(c);
-            continue;
-        }
-        if (in)
-            out.push_back(c);
-    }
-    return out;
-}
-
-int countOf(const Calls& calls, const std::string& what) {
-    int n = 0;
-    for (const std::string& c : calls)
-        n += c == what ? 1 : 0;
-    return n;
 }
 
 } // namespace
@@ -327,21 +276,6 @@ TEST(ItemPainter, HiddenItemDrawsNothing) {
     addVl(gdx, segment(10, 10, 50, 10), indexed(1), CQorArrayTempl<double>(), GDX_FLAG_HIDDEN);
     EXPECT_EQ(paint(gdx), (Calls{"clip 0 0 110 110"}));
 }
-
-namespace {
-CQorDisplayItem glyphItem() {
-    CQorDisplayItem item;
-    item.type = GDX_TXT;
-    item.color = indexed(1);
-    item.linetype = pattern({1.0});
-    CQorArrayTempl<CQorVertexArray> ring;
-    ring.append(rect(10, 10, 30, 30));
-    ring.append(rect(15, 15, 20, 20));
-    item.regionList.append(ring);
-    item.regionList.append(region(rect(40, 10, 50, 30)));
-    return item;
-}
-} // namespace
 
 TEST(ItemPainter, GlyphHoleClipsOnlyItsOwnGlyph) {
     CQorGDX gdx = boxDoc();

@@ -62,6 +62,21 @@ TEST(Dll, IconTwoThousandLoadsInBothSizes) {
     DestroyIcon(small);
 }
 
+TEST(Dll, PanCursorTwoThousandSixHasItsHotSpotInTheMiddle) {
+    Loaded l;
+    ASSERT_NE(l.dll, nullptr);
+    HCURSOR pan = LoadCursorW(l.dll, MAKEINTRESOURCEW(2006));
+    ASSERT_NE(pan, nullptr);
+    ICONINFO info = {};
+    ASSERT_TRUE(GetIconInfo(pan, &info));
+    EXPECT_FALSE(info.fIcon);
+    EXPECT_EQ(info.xHotspot, 16u);
+    EXPECT_EQ(info.yHotspot, 16u);
+    if (info.hbmColor)
+        DeleteObject(info.hbmColor);
+    DeleteObject(info.hbmMask);
+}
+
 TEST(Dll, ExportedFunctionIsReachableByName) {
     Loaded l;
     ASSERT_NE(l.dll, nullptr);

@@ -5,6 +5,8 @@
 #include "displaylist/emf_surface.h"
 #include "displaylist/item_painter.h"
 
+#include "tests/framework/test_dib.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -12,37 +14,9 @@
 
 namespace {
 
-struct Bitmap32 {
-    HDC dc = nullptr;
-    HBITMAP bitmap = nullptr;
-    HGDIOBJ old = nullptr;
-    DWORD* bits = nullptr;
-    int width = 0;
-
-    Bitmap32(int w, int h) : width(w) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = w;
-        info.bmiHeader.biHeight = -h;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        info.bmiHeader.biCompression = BI_RGB;
-        dc = CreateCompatibleDC(nullptr);
-        void* raw = nullptr;
-        bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
-        bits = static_cast<DWORD*>(raw);
-        old = SelectObject(dc, bitmap);
-        RECT all = {0, 0, w, h};
-        FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
-        GdiFlush();
-    }
-    ~Bitmap32() {
-        SelectObject(dc, old);
-        DeleteObject(bitmap);
-        DeleteDC(dc);
-    }
-    // 0x00RRGGBB.
-    DWORD at(int x, int y) const { return bits[y * width + x] & 0xFFFFFF; }
+// A white 32-bit DIB section.
+struct Bitmap32 : TestDib {
+    Bitmap32(int w, int h) : TestDib(w, h) { fill(RGB(255, 255, 255)); }
 };
 
 int CALLBACK collectType(HDC, HANDLETABLE*, const ENHMETARECORD* rec, int, LPARAM out) {

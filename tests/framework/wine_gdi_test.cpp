@@ -1,42 +1,12 @@
 // Proves that the Windows test environment is real GDI: an enhanced metafile is
 // recorded, played into a 32-bit DIB section and its pixels are read back.
+#include "tests/framework/test_dib.h"
+
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
-namespace {
-
-struct Dib {
-    HDC dc = nullptr;
-    HBITMAP bitmap = nullptr;
-    HGDIOBJ old = nullptr;
-    DWORD* bits = nullptr;
-    int width = 0, height = 0;
-
-    Dib(int w, int h) : width(w), height(h) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = w;
-        info.bmiHeader.biHeight = -h; // top-down rows
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        info.bmiHeader.biCompression = BI_RGB;
-        dc = CreateCompatibleDC(nullptr);
-        void* raw = nullptr;
-        bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
-        bits = static_cast<DWORD*>(raw);
-        old = SelectObject(dc, bitmap);
-    }
-    ~Dib() {
-        SelectObject(dc, old);
-        DeleteObject(bitmap);
-        DeleteDC(dc);
-    }
-    // The pixel as 0x00RRGGBB.
-    DWORD at(int x, int y) const { return bits[y * width + x] & 0xFFFFFF; }
-};
-
-} // namespace
+using Dib = TestDib;
 
 TEST(WineGdi, MetafileLinePlaysIntoDibSection) {
     // Record: a red line across a 100 by 100 picture.

@@ -11,6 +11,7 @@
 using slidetest::Bytes;
 using slidetest::CRecordingSink;
 using slidetest::level2Header;
+using slidetest::putVertex;
 using slidetest::putWord;
 
 namespace {
@@ -303,16 +304,6 @@ TEST(SlideDecoder, CoordinateArithmeticWrapsAt16Bits) {
                                         "L -32768 -32768 32767 32640"}));
 }
 
-namespace {
-
-void putVertex(Bytes& b, int x, int y) {
-    putWord(b, 0);
-    putWord(b, x);
-    putWord(b, y);
-}
-
-} // namespace
-
 TEST(SlideDecoder, SolidFillOfFullRunSkipsTheClosingRecord) {
     Bytes b = level2Header();
     putWord(b, 0xFD00);
@@ -392,4 +383,23 @@ TEST(SlideDecoder, HugeVertexCountOnShortDataEndsWithoutReadingPastTheEnd) {
     bool ok = false;
     EXPECT_EQ(decodeAll(b, dec, &ok), (std::vector<std::string>{"P -772 -772 -772 -772"}));
     EXPECT_TRUE(ok);
+}
+
+TEST(SlideDecoder, SinkIsToldTheHeaderBeforeAnyRecord) {
+    struct CHeaderSink : CRecordingSink {
+        void slideHeader(int highX, int highY) override {
+            calls.push_back("H " + std::to_string(highX) + " " + std::to_string(highY));
+        }
+    };
+    Bytes b = level2Header(300, 200);
+    putWord(b, 0xFF01);
+    CHeaderSink sink;
+    QOR::CSlideDecoder dec;
+    EXPECT_TRUE(dec.decode(b.data(), b.size(), sink));
+    EXPECT_EQ(sink.calls, (std::vector<std::string>{"H 300 200", "C 1"}));
+    // A level the decoder does not read tells nothing.
+    b[18] = 3;
+    CHeaderSink none;
+    EXPECT_FALSE(dec.decode(b.data(), b.size(), none));
+    EXPECT_TRUE(none.calls.empty());
 }

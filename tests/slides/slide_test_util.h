@@ -41,6 +41,21 @@ inline void putWord(Bytes& b, int w) {
     b.push_back(static_cast<std::uint8_t>((w >> 8) & 0xFF));
 }
 
+// A vertex record of a solid fill: a dropped word, then x and y.
+inline void putVertex(Bytes& b, int x, int y) {
+    putWord(b, 0);
+    putWord(b, x);
+    putWord(b, y);
+}
+
+// A vector record: x0 (its high byte below 0x80), y0, x1, y1.
+inline void putVector(Bytes& b, int x0, int y0, int x1, int y1) {
+    putWord(b, x0);
+    putWord(b, y0);
+    putWord(b, x1);
+    putWord(b, y1);
+}
+
 // A level-2 little-endian header of 31 bytes with the given high X and high Y.
 inline Bytes level2Header(int highX = 1000, int highY = 800) {
     Bytes b;
