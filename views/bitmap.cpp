@@ -5,6 +5,8 @@
 #include "foundation/app_file_name.h"
 #include "foundation/app_files.h"
 #include "foundation/qor_map_templ.h"
+#include "framework/bitmap.h"
+#include "framework/dc.h"
 
 namespace {
 
@@ -134,6 +136,18 @@ HBITMAP qor_gdx_image_get_bitmap(const CQorString& name, int number, int width, 
         return static_cast<HBITMAP>(loaded);
     transparent = false;
     return flattenIcon(static_cast<HICON>(loaded), static_cast<COLORREF>(bkColor & 0xFFFFFF));
+}
+
+unsigned long qor_gdx_picture_bkcolor_get(CDC* dc, BITMAP* bm) {
+    if (!dc || !bm)
+        return 0;
+    return QOR::bitmapBkColorVote(dc->GetSafeHdc(), bm->bmWidth, bm->bmHeight);
+}
+
+void qor_gdx_picture_transparent(CDC* dc, int x, int y, int, int, CBitmap* bitmap) {
+    if (!dc || !bitmap)
+        return;
+    QOR::bitmapDrawTransparent(dc->GetSafeHdc(), x, y, static_cast<HBITMAP>(*bitmap));
 }
 
 namespace QOR {

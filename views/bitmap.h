@@ -21,6 +21,18 @@
 QOR_API HBITMAP qor_gdx_image_get_bitmap(const CQorString& name, int number, int width, int height,
                                          bool& transparent, unsigned long bkColor);
 
+class CDC;
+class CBitmap;
+
+// The colour taken for the background of the bitmap selected into dc, bm giving
+// its width and height: the vote below. 0 for a null dc or bm.
+QOR_API unsigned long qor_gdx_picture_bkcolor_get(CDC* dc, BITMAP* bm);
+
+// Draws bitmap at x, y on dc, leaving out its background colour (the vote). The
+// two further integers are accepted and not used: the size is the bitmap's own.
+// A null dc or bitmap draws nothing.
+QOR_API void qor_gdx_picture_transparent(CDC* dc, int x, int y, int, int, CBitmap* bitmap);
+
 namespace QOR {
 
 // The background colour of the bitmap selected into dc, of width by height: the

@@ -2,6 +2,9 @@
 // background vote and the transparent copy, checked by their pixels.
 #include "views/bitmap.h"
 
+#include "framework/bitmap.h"
+#include "framework/dc.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -359,5 +362,38 @@ TEST(PictureBitmap, TransparentCopyLeavesTheBackgroundColourOut) {
     // The context's colours are as before.
     EXPECT_EQ(GetBkColor(out.dc), RGB(1, 2, 3));
     EXPECT_EQ(GetTextColor(out.dc), RGB(4, 5, 6));
+    pic.old = SelectObject(pic.dc, picture);
+}
+
+TEST(PictureBitmap, BkColorOfADeviceContextIsTheVoteOfItsBitmap) {
+    Canvas c(9, 9, RGB(7, 8, 9));
+    SetPixelV(c.dc, 4, 4, RGB(0, 0, 0));
+    BITMAP bm = {};
+    GetObjectW(c.bitmap, sizeof(bm), &bm);
+    EXPECT_EQ(qor_gdx_picture_bkcolor_get(CDC::FromHandle(c.dc), &bm),
+              static_cast<unsigned long>(RGB(7, 8, 9)));
+    EXPECT_EQ(qor_gdx_picture_bkcolor_get(nullptr, &bm), 0ul);
+    EXPECT_EQ(qor_gdx_picture_bkcolor_get(CDC::FromHandle(c.dc), nullptr), 0ul);
+}
+
+TEST(PictureBitmap, TransparentDrawThroughTheWrappersIgnoresTheTwoSizes) {
+    Canvas pic(6, 6, RGB(0, 255, 0)); // green background, a red middle
+    HBRUSH red = CreateSolidBrush(RGB(255, 0, 0));
+    RECT inner = {2, 2, 4, 4};
+    FillRect(pic.dc, &inner, red);
+    DeleteObject(red);
+    GdiFlush();
+    HBITMAP picture = pic.bitmap;
+    SelectObject(pic.dc, pic.old);
+    Canvas out(12, 12, RGB(255, 255, 255));
+    // Sizes of 1 by 1 asked for: the whole 6 by 6 picture is drawn all the same.
+    qor_gdx_picture_transparent(CDC::FromHandle(out.dc), 3, 3, 1, 1, CBitmap::FromHandle(picture));
+    EXPECT_EQ(out.at(3, 3), 0xFFFFFFu); // green left out
+    EXPECT_EQ(out.at(5, 5), 0xFF0000u);
+    EXPECT_EQ(out.at(6, 6), 0xFF0000u);
+    EXPECT_EQ(out.at(8, 8), 0xFFFFFFu);
+    qor_gdx_picture_transparent(nullptr, 0, 0, 0, 0, CBitmap::FromHandle(picture));
+    qor_gdx_picture_transparent(CDC::FromHandle(out.dc), 0, 0, 0, 0, nullptr);
+    EXPECT_EQ(out.at(0, 0), 0xFFFFFFu);
     pic.old = SelectObject(pic.dc, picture);
 }
