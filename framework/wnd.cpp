@@ -360,7 +360,15 @@ LRESULT CWnd::Default() {
     return DefWindowProc(t_current.message, t_current.wParam, t_current.lParam);
 }
 
+struct CWndProcAccess {
+    static LRESULT dispatch(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+};
+
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    return CWndProcAccess::dispatch(hWnd, message, wParam, lParam);
+}
+
+LRESULT CWndProcAccess::dispatch(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
     if (!wnd)
         return ::DefWindowProcW(hWnd, message, wParam, lParam);

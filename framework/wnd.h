@@ -14,6 +14,7 @@
 QOR_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 
 class CWnd;
+struct CWndProcAccess;
 
 // Binding. A window made by Create/CreateEx is bound to its object from its very
 // first message on (WM_GETMINMAXINFO, WM_NCCREATE): the window procedure is
@@ -103,7 +104,10 @@ public:
     int MessageBox(LPCWSTR text, LPCWSTR caption = nullptr, UINT type = MB_OK);
 
 protected:
-    friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
+    // The window procedure reaches the protected dispatch through this helper of
+    // wnd.cpp (a friend function would have to repeat the export attribute, which
+    // hosts see as an import).
+    friend struct CWndProcAccess;
 
     virtual const AFX_MSGMAP* GetMessageMap() const;
     static const AFX_MSGMAP* GetThisMessageMap();

@@ -15,6 +15,7 @@
 #include "images/image_registry.h"
 #include "images/image_sld.h"
 #include "images/image_wall.h"
+#include "slides/gdx_sld.h"
 #include "text/glyph_table.h"
 
 #include <algorithm>
@@ -154,6 +155,56 @@ Document slideFromLibrary(const Inputs& in, CQorGDX& gdx) {
     return d;
 }
 
+// Every real slide of the sample data, the files and both library members, side by
+// side, each placed by its own "MTX" and counted under its own "STACK".
+Document allSlides(const Inputs& in, CQorGDX& gdx) {
+    struct Source {
+        const wchar_t* name;
+        const wchar_t* file; // null: a member of the library
+    };
+    const Source sources[] = {{L"slide_dn.sld", L"slide_dn.sld"},
+                              {L"slide_up.sld", L"slide_up.sld"},
+                              {L"slide_kss.sld", L"slide_kss.sld"},
+                              {L"slide_kz.sld", L"slide_kz.sld"},
+                              {L"SLIDE1", nullptr},
+                              {L"SLIDE2", nullptr}};
+    const std::wstring folder = in.slideLib.substr(0, in.slideLib.find_last_of(L"\\/") + 1);
+    Document d{L"slides",
+               "every real slide: four slide files and both members of a library (CGdxSld)"};
+    int drawn = 0;
+    for (int k = 0; k < 6; ++k) {
+        QOR::CGdxSld slide;
+        const std::wstring file = folder + (sources[k].file ? sources[k].file : L"");
+        const bool loaded = sources[k].file ? slide.load(file.c_str(), nullptr)
+                                            : slide.load(sources[k].name, in.slideLib.c_str());
+        if (!loaded)
+            continue;
+        // Each slide is fitted into a cell of 100 by 75 units, three to a row: its
+        // extents are measured in a scratch document first.
+        CQorGDX scratch;
+        CQorPoint3d lo, hi;
+        if (!slide.draw(&scratch, 0, nullptr) || !scratch.extmaxGet(lo, hi))
+            continue;
+        const double size = std::max({hi.x - lo.x, (hi.y - lo.y) * 4.0 / 3.0, 1e-9});
+        CQorMatrix3d toOrigin, scale, toCell;
+        toOrigin.setToTranslation(CQorVector3d(-lo.x, -lo.y, 0));
+        scale.setToScaling(90.0 / size, CQorPoint3d(0, 0, 0));
+        toCell.setToTranslation(CQorVector3d(110.0 * (k % 3), -85.0 * (k / 3), 0));
+        const CQorMatrix3d at = toCell * scale * toOrigin;
+        CQorDataItem params(1);
+        const CQorDataKey mtxKey(L"MTX"), stackKey(L"STACK");
+        dataItemSet(&params, &mtxKey, static_cast<const double(*)[4]>(at));
+        dataItemSet(&params, &stackKey, 10 * (k + 1));
+        gdx.imageVl(stack(9, k), 0,
+                    box(-5.0 + 110.0 * (k % 3), -5.0 - 85.0 * (k / 3), 95.0 + 110.0 * (k % 3),
+                        72.5 - 85.0 * (k / 3)),
+                    index(8), CQorMatrix3d(), CQorArrayTempl<double>(), 1.0, 1, CQorPoint3d());
+        drawn += slide.draw(&gdx, 0, &params) ? 1 : 0;
+    }
+    d.built = drawn == 6;
+    return d;
+}
+
 // Hatches, a filled region with a hole, outlines and line patterns.
 Document styles(CQorGDX& gdx) {
     const wchar_t* hatches[] = {L"ANSI31", L"ANSI37", L"BRICK", L"GRAVEL", L"DOTS", L"INSULATION"};
@@ -290,7 +341,7 @@ Document glyphs(CQorGDX& gdx) {
 } // namespace
 
 int count() {
-    return 10;
+    return 11;
 }
 
 Document build(int k, CQorDataItem& model, const Inputs& in, CQorGDX& gdx) {
@@ -327,6 +378,9 @@ Document build(int k, CQorDataItem& model, const Inputs& in, CQorGDX& gdx) {
         break;
     case 9:
         d = wall(in, gdx);
+        break;
+    case 10:
+        d = allSlides(in, gdx);
         break;
     default:
         d = Document{L"", "", false};
