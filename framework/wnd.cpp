@@ -295,6 +295,15 @@ int CWnd::MessageBox(LPCWSTR text, LPCWSTR caption, UINT type) {
     return ::MessageBoxW(m_hWnd, text, caption, type);
 }
 
+const CRuntimeClass* CWnd::GetThisClass() {
+    static const CRuntimeClass record = {"CWnd", static_cast<int>(sizeof(CWnd)), nullptr};
+    return &record;
+}
+
+const CRuntimeClass* CWnd::GetRuntimeClass() const {
+    return GetThisClass();
+}
+
 const AFX_MSGMAP* CWnd::GetThisMessageMap() {
     static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, 0, nullptr}};
     static const AFX_MSGMAP map = {nullptr, entries};

@@ -7,6 +7,7 @@
 #include "framework/message_map.h"
 #include "framework/point.h"
 #include "framework/rect.h"
+#include "framework/runtime_class.h"
 
 #include <windows.h>
 
@@ -66,6 +67,11 @@ public:
     static void DeleteTempMap();
     // The class name Create uses for a null class name.
     static LPCWSTR DefaultClassName();
+
+    // --- Run-time class (see framework/runtime_class.h); CWnd is the root.
+    static const CRuntimeClass* GetThisClass();
+    virtual const CRuntimeClass* GetRuntimeClass() const;
+    bool IsKindOf(const CRuntimeClass* cls) const { return GetRuntimeClass()->IsDerivedFrom(cls); }
 
     // --- Messages.
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
