@@ -3,6 +3,7 @@
 #include "displaylist/refresh.h"
 #include "foundation/hatch_prop.h"
 #include "gdx_test_util.h"
+#include "tests/framework/test_dib.h"
 
 #include <windows.h>
 
@@ -41,27 +42,11 @@ std::vector<DWORD> typesOf(HENHMETAFILE emf) {
     return out;
 }
 
-// A white 32-bit DIB of the output's size with the metafile played into it at
-// the device coordinates it was drawn at.
-struct Played {
-    HDC dc = CreateCompatibleDC(nullptr);
-    HBITMAP bitmap = nullptr;
-    HGDIOBJ old = nullptr;
-    DWORD* bits = nullptr;
-
-    explicit Played(HENHMETAFILE emf) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = kSize;
-        info.bmiHeader.biHeight = -kSize;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* raw = nullptr;
-        bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
-        bits = static_cast<DWORD*>(raw);
-        old = SelectObject(dc, bitmap);
-        RECT all = {0, 0, kSize, kSize};
-        FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+// A white bitmap of the output's size with the metafile played into it at the
+// device coordinates it was drawn at.
+struct Played : TestDib {
+    explicit Played(HENHMETAFILE emf) : TestDib(kSize, kSize) {
+        fill(RGB(255, 255, 255));
         ENHMETAHEADER h = {};
         GetEnhMetaFileHeader(emf, sizeof(h), &h);
         // Playback maps the frame, which GDI derived from the bounds as the
@@ -71,12 +56,6 @@ struct Played {
         PlayEnhMetaFile(dc, emf, &target);
         GdiFlush();
     }
-    ~Played() {
-        SelectObject(dc, old);
-        DeleteObject(bitmap);
-        DeleteDC(dc);
-    }
-    DWORD at(int x, int y) const { return bits[y * kSize + x] & 0xFFFFFF; }
     bool dark(int x, int y) const { return at(x, y) == 0; }
     // Black within one pixel of (x, y): playback may place a row one off.
     bool darkNear(int x, int y) const {

@@ -4,6 +4,7 @@
 
 #include "framework/bitmap.h"
 #include "framework/dc.h"
+#include "tests/framework/test_dib.h"
 
 #include <gtest/gtest.h>
 
@@ -125,39 +126,9 @@ struct Pixels {
     }
 };
 
-// A memory context with a 32-bit DIB of w by h selected.
-struct Canvas {
-    HDC dc = CreateCompatibleDC(nullptr);
-    HBITMAP bitmap = nullptr;
-    HGDIOBJ old = nullptr;
-    std::uint32_t* bits = nullptr;
-    int width;
-    Canvas(int w, int h, COLORREF fill) : width(w) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = w;
-        info.bmiHeader.biHeight = -h;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* raw = nullptr;
-        bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &raw, nullptr, 0);
-        bits = static_cast<std::uint32_t*>(raw);
-        old = SelectObject(dc, bitmap);
-        HBRUSH b = CreateSolidBrush(fill);
-        RECT r = {0, 0, w, h};
-        FillRect(dc, &r, b);
-        DeleteObject(b);
-        GdiFlush();
-    }
-    ~Canvas() {
-        SelectObject(dc, old);
-        DeleteObject(bitmap);
-        DeleteDC(dc);
-    }
-    std::uint32_t at(int x, int y) {
-        GdiFlush();
-        return bits[y * width + x] & 0xFFFFFF;
-    }
+// A memory context with a 32-bit DIB of w by h selected, filled with a colour.
+struct Canvas : TestDib {
+    Canvas(int w, int h, COLORREF color) : TestDib(w, h) { fill(color); }
 };
 
 // Red with a transparent upper left quarter.
