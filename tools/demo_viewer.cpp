@@ -1,6 +1,8 @@
 #include "tools/demo_viewer.h"
 
 #include "displaylist/gdx.h"
+#include "foundation/color_value.h"
+#include "foundation/config.h"
 #include "foundation/data_item.h"
 #include "foundation/data_text_format.h"
 #include "foundation/g_outline.h"
@@ -102,6 +104,16 @@ CQorArrayTempl<CQorVertexArray> sections() {
             out.append(vl);
     }
     return out;
+}
+
+// The colour of marked items is the host's (configuration "ORV_MENU\COLOR", key
+// "HIGHLIGHT"); where the host has none configured, the viewer as host takes red.
+void highlightColorEnsure() {
+    CQorDataItem* dir = QOR::cfg_dir_make(L"ORV_MENU\\COLOR");
+    const CQorDataKey key(L"HIGHLIGHT");
+    CQorColor configured;
+    if (dir && !dataItemGet(dir, &key, configured))
+        dataItemSet(dir, &key, 1);
 }
 
 class CViewer;
@@ -233,6 +245,7 @@ int CViewer::open() {
     const DWORD child = WS_CHILD | WS_CLIPSIBLINGS;
     switch (m_target.kind) {
     case ViewKind::Model:
+        highlightColorEnsure();
         m_image = std::make_unique<CQorDplistImage>();
         m_vll = std::make_unique<CQorVllImage>();
         if (!m_image->Create(nullptr, L"", child, client, &m_frame, kImageId) ||
