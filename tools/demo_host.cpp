@@ -44,11 +44,12 @@ int countExports(HMODULE module, bool print) {
 }
 
 void usage() {
-    std::fprintf(stderr, "usage: qor_demo_host [--exports] [--model DIR --slides LIB --out DIR]\n"
-                         "       qor_demo_host --view FILE [--page N] [--size WxH] [--slides LIB]\n"
-                         "                     [--screenshot OUT.png] [--timeout SECONDS]\n"
-                         "  FILE: a model (.qdt), a slide (.sld), a library member (LIB.slb:NAME)\n"
-                         "  or a picture (.bmp, .ico, .jpg, ...)\n");
+    std::fprintf(stderr,
+                 "usage: qor_demo_host [--exports] [--model DIR --slides LIB --out DIR]\n"
+                 "       qor_demo_host --view FILE [--page N] [--size WxH] [--slides LIB]\n"
+                 "                     [--screenshot OUT.png [--click X,Y]] [--timeout SECONDS]\n"
+                 "  FILE: a model (.qdt), a slide (.sld), a library member (LIB.slb:NAME)\n"
+                 "  or a picture (.bmp, .ico, .jpg, ...)\n");
 }
 
 // A whole positive number, or -1.
@@ -123,6 +124,15 @@ int wmain(int argc, wchar_t** argv) {
             view.page = positive(argv[++k]) - 1;
         } else if (a == L"--timeout" && more && positive(argv[k + 1]) > 0) {
             view.timeoutSeconds = positive(argv[++k]);
+        } else if (a == L"--click" && more) {
+            const std::wstring at = argv[++k];
+            const size_t comma = at.find(L',');
+            view.clickX = comma == std::wstring::npos ? -1 : positive(at.substr(0, comma));
+            view.clickY = comma == std::wstring::npos ? -1 : positive(at.substr(comma + 1));
+            if (view.clickX < 0 || view.clickY < 0) {
+                usage();
+                return 2;
+            }
         } else if (a == L"--size" && more) {
             const std::wstring size = argv[++k];
             const size_t x = size.find(L'x');

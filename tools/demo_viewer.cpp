@@ -412,6 +412,15 @@ int runViewer(const ViewerOptions& options) {
         status = viewer.open();
         if (status == 0 && screenshot) {
             settle(kSettleMs);
+            if (options.clickX >= 0 && options.clickY >= 0) {
+                const LPARAM at = MAKELPARAM(options.clickX, options.clickY);
+                SendMessageW(viewer.shown(), WM_LBUTTONDOWN, MK_LBUTTON, at);
+                SendMessageW(viewer.shown(), WM_LBUTTONUP, 0, at);
+                settle(kSettleMs / 3);
+            }
+            wchar_t text[512] = {};
+            GetWindowTextW(viewer.frame().m_hWnd, text, 512);
+            std::printf("title: %ls\n", text);
             // One more paint, done now, so that the copy sees the finished picture.
             RedrawWindow(viewer.shown(), nullptr, nullptr,
                          RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -84,6 +84,17 @@ with tempfile.TemporaryDirectory() as tmp:
         have = colours(px)
         for c in (0xFF0000, 0xFFFF00, 0x00FF00, 0x00FFFF, 0x0000FF, 0xFF00FF):
             assert c in have, "colour %06x missing" % c
+    elif case == "pick":
+        # A left click on the hatched square of group 1 names the group in the title;
+        # one on nothing names none.
+        out = os.path.join(tmp, "pick.png")
+        args = [wine_path(model), "--page", "4", "--size", "400x300", "--screenshot",
+                wine_path(out), "--click"]
+        rc, text = view(*(args + ["300,40"]))
+        assert rc == 0 and "title: QOR viewer - styles (4/12)" in text, text
+        assert "picked group 1\n" in text.replace("\r", ""), text
+        rc, text = view(*(args + ["5,290"]))
+        assert rc == 0 and "title: QOR viewer - styles" in text and "picked" not in text, text
     elif case == "vll":
         # The page after the documents: the vertex list view, lines that stand out
         # from the host's background, the first section marked in another colour.
