@@ -18,6 +18,8 @@ constexpr DWORD kSystemTextMax = 260;
 
 } // namespace
 
+IMPLEMENT_DYNAMIC(CPicture, CWnd)
+
 BEGIN_MESSAGE_MAP(CPicture, CWnd)
 ON_WM_PAINT()
 ON_WM_MOUSEWHEEL()

@@ -13,8 +13,11 @@ namespace QOR {
 
 // Loading and rendering are the platform picture object's (OleLoadPicturePath and
 // IPicture); the window keeps the geometry: the picture is fitted into the client
-// area (shrunk, never enlarged), then zoomed and panned by the user.
+// area (shrunk, never enlarged), then zoomed and panned by the user. The class is
+// dynamic: RUNTIME_CLASS(QOR::CPicture) names it, and IsKindOf recognises it.
 class QOR_API CPicture : public CWnd {
+    DECLARE_DYNAMIC(CPicture)
+
 public:
     CPicture();
     ~CPicture() override;

@@ -1,7 +1,8 @@
 // The demo host: a program that uses Qor_2016_18_64_Mfc.Dll the way a host CAD
 // program does. It links the import library, reports what the DLL holds, installs
 // an application object, and renders the sample model: every document through
-// refresh to an enhanced metafile, and a PNG preview of each.
+// refresh to an enhanced metafile, and a PNG preview of each. With --view it shows a
+// model, a slide or a picture in the library's windows instead (tools/demo_viewer.h).
 #include <windows.h>
 
 #include "displaylist/gdx.h"
@@ -12,9 +13,11 @@
 #include "foundation/qor_app.h"
 #include "tools/demo_documents.h"
 #include "tools/demo_preview.h"
+#include "tools/demo_viewer.h"
 
 #include <cstdio>
 #include <cwchar>
+#include <cwctype>
 #include <string>
 
 namespace {
@@ -41,7 +44,25 @@ int countExports(HMODULE module, bool print) {
 }
 
 void usage() {
-    std::fprintf(stderr, "usage: qor_demo_host [--exports] [--model DIR --slides LIB --out DIR]\n");
+    std::fprintf(stderr,
+                 "usage: qor_demo_host [--exports] [--model DIR --slides LIB --out DIR]\n"
+                 "       qor_demo_host --view FILE [--page N] [--size WxH] [--slides LIB]\n"
+                 "                     [--screenshot OUT.png [--click X,Y]] [--timeout SECONDS]\n"
+                 "  FILE: a model (.qdt), a slide (.sld), a library member (LIB.slb:NAME)\n"
+                 "  or a picture (.bmp, .ico, .jpg, ...)\n");
+}
+
+// A whole positive number, or -1.
+int positive(const std::wstring& text) {
+    if (text.empty() || text.size() > 6)
+        return -1;
+    int n = 0;
+    for (wchar_t c : text) {
+        if (!std::iswdigit(c))
+            return -1;
+        n = n * 10 + (c - L'0');
+    }
+    return n > 0 ? n : -1;
 }
 
 // Renders every demo document to DIR\<name>.emf through refresh, and a PNG preview
@@ -81,6 +102,7 @@ int wmain(int argc, wchar_t** argv) {
     bool listExports = false;
     demo::Inputs in;
     std::wstring outDir;
+    demo::ViewerOptions view;
     for (int k = 1; k < argc; ++k) {
         const std::wstring a = argv[k];
         const bool more = k + 1 < argc;
@@ -94,6 +116,32 @@ int wmain(int argc, wchar_t** argv) {
             in.slideLib = argv[++k];
         } else if (a == L"--out" && more) {
             outDir = argv[++k];
+        } else if (a == L"--view" && more) {
+            view.name = argv[++k];
+        } else if (a == L"--screenshot" && more) {
+            view.screenshot = argv[++k];
+        } else if (a == L"--page" && more && positive(argv[k + 1]) > 0) {
+            view.page = positive(argv[++k]) - 1;
+        } else if (a == L"--timeout" && more && positive(argv[k + 1]) > 0) {
+            view.timeoutSeconds = positive(argv[++k]);
+        } else if (a == L"--click" && more) {
+            const std::wstring at = argv[++k];
+            const size_t comma = at.find(L',');
+            view.clickX = comma == std::wstring::npos ? -1 : positive(at.substr(0, comma));
+            view.clickY = comma == std::wstring::npos ? -1 : positive(at.substr(comma + 1));
+            if (view.clickX < 0 || view.clickY < 0) {
+                usage();
+                return 2;
+            }
+        } else if (a == L"--size" && more) {
+            const std::wstring size = argv[++k];
+            const size_t x = size.find(L'x');
+            view.width = x == std::wstring::npos ? -1 : positive(size.substr(0, x));
+            view.height = x == std::wstring::npos ? -1 : positive(size.substr(x + 1));
+            if (view.width < 1 || view.height < 1) {
+                usage();
+                return 2;
+            }
         } else {
             usage();
             return 2;
@@ -124,6 +172,15 @@ int wmain(int argc, wchar_t** argv) {
     std::printf("icon 2000: %s\n", icon ? "present" : "missing");
     std::printf("named exports: %d\n", countExports(dll, listExports));
     int status = icon && info[0] ? 0 : 2;
+
+    if (!view.name.empty()) {
+        qorAppSet(QOR::defaultAppPtr());
+        view.slideLib = in.slideLib;
+        status = demo::runViewer(view);
+        qorAppSet(nullptr);
+        FreeLibrary(dll);
+        return status;
+    }
 
     if (!in.modelDir.empty() && !outDir.empty()) {
         // The host's application object: here the library's own default.

@@ -324,3 +324,15 @@ TEST_F(PictureTest, SubclassedStaticControlNotifiesItsParent) {
     ASSERT_TRUE(sub.SubclassWindow(stat));
     EXPECT_TRUE(GetWindowLongPtrW(stat, GWL_STYLE) & SS_NOTIFY);
 }
+
+TEST(PictureClass, IsADynamicClassKnownByNameAndBase) {
+    QOR::CPicture pic;
+    const CWnd& asWnd = pic;
+    EXPECT_EQ(asWnd.GetRuntimeClass(), RUNTIME_CLASS(QOR::CPicture));
+    EXPECT_STREQ(asWnd.GetRuntimeClass()->m_lpszClassName, "CPicture");
+    EXPECT_EQ(RUNTIME_CLASS(QOR::CPicture)->m_nObjectSize, static_cast<int>(sizeof(QOR::CPicture)));
+    EXPECT_TRUE(pic.IsKindOf(RUNTIME_CLASS(QOR::CPicture)));
+    EXPECT_TRUE(pic.IsKindOf(RUNTIME_CLASS(CWnd)));
+    CWnd plain;
+    EXPECT_FALSE(plain.IsKindOf(RUNTIME_CLASS(QOR::CPicture)));
+}
