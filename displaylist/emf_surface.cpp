@@ -285,6 +285,10 @@ void CQorEmfSurface::clipRect(int x1, int y1, int x2, int y2) {
 }
 
 void CQorEmfSurface::clipSubtractPolygon(const std::vector<DevicePoint>& pts) {
+    // Fewer than three points make no polygon region at all, and nothing is taken
+    // away; a polygon without area is a region without rectangles, recorded so.
+    if (pts.size() < 3)
+        return;
     region(kRgnDiff, regionBands(polygonRowRects(pts)));
 }
 

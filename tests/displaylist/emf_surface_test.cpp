@@ -199,6 +199,25 @@ TEST(EmfSurface, RegionBandsJoinRowsWithTheSameSpans) {
               (std::vector<int>{0, 0, 4, 1, 0, 1, 1, 3, 3, 1, 4, 3, 0, 3, 4, 4}));
 }
 
+TEST(EmfSurface, SubtractingFewerThanThreePointsRecordsNothing) {
+    CQorEmfSurface emf;
+    emf.clipSubtractPolygon({});
+    emf.clipSubtractPolygon({{2, 2}, {9, 2}});
+    EXPECT_EQ(emf.recordCount(), 0);
+}
+
+TEST(EmfSurface, SubtractingAPolygonWithoutAreaRecordsAnEmptyRegion) {
+    CQorEmfSurface emf;
+    emf.clipSubtractPolygon({{2, 2}, {9, 2}, {2, 2}});
+    const std::vector<Record> recs = records(emf.bytes());
+    ASSERT_EQ(recs.size(), 3u);
+    EXPECT_EQ(recs[1].type, QOR::kEmrExtselectcliprgn);
+    // cbRgnData 32 (the header alone), mode 4 (difference), no rectangles.
+    EXPECT_EQ(recs[1].words[0], 32u);
+    EXPECT_EQ(recs[1].words[1], 4u);
+    EXPECT_EQ(recs[1].words[4], 0u);
+}
+
 TEST(EmfSurface, RegionBandsKeepAGapBetweenRows) {
     EXPECT_EQ(QOR::regionBands({0, 0, 5, 1, 0, 2, 5, 3}),
               (std::vector<int>{0, 0, 5, 1, 0, 2, 5, 3}));

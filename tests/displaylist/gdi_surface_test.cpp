@@ -4,10 +4,13 @@
 #include "displaylist/gdi_surface.h"
 #include "displaylist/item_painter.h"
 #include "displaylist/refresh.h"
+#include "emf_records.h"
 #include "foundation/hatch_prop.h"
 #include "gdx_test_util.h"
 
 #include <gtest/gtest.h>
+
+using namespace emfrec;
 
 #include <cstdint>
 #include <cstdio>
@@ -15,85 +18,6 @@
 #include <vector>
 
 namespace {
-
-struct Rec {
-    DWORD type = 0;
-    std::vector<DWORD> params;
-};
-
-int CALLBACK collect(HDC, HANDLETABLE*, const ENHMETARECORD* rec, int, LPARAM out) {
-    Rec r;
-    r.type = rec->iType;
-    const DWORD n = (rec->nSize - 8) / 4;
-    r.params.assign(rec->dParm, rec->dParm + n);
-    reinterpret_cast<std::vector<Rec>*>(out)->push_back(r);
-    return 1;
-}
-
-std::vector<Rec> recordsOf(HENHMETAFILE emf) {
-    std::vector<Rec> out;
-    EnumEnhMetaFile(nullptr, emf, collect, &out, nullptr);
-    return out;
-}
-
-// What must agree between two metafiles of one document: the kind of every
-// record and, for drawing records, their coordinates. Object slots and the
-// header are the recorder's own business.
-std::string digest(const std::vector<Rec>& recs) {
-    std::string out;
-    for (const Rec& r : recs) {
-        if (r.type == EMR_HEADER || r.type == EMR_EOF)
-            continue;
-        out += std::to_string(r.type);
-        size_t from = 0, count = 0;
-        switch (r.type) {
-        case EMR_MOVETOEX:
-        case EMR_LINETO:
-            count = 2;
-            break;
-        case EMR_RECTANGLE:
-        case EMR_ELLIPSE:
-            count = 4;
-            break;
-        case EMR_SETPIXELV:
-            count = 3;
-            break;
-        case EMR_SETBKCOLOR:
-        case EMR_SETPOLYFILLMODE:
-            count = 1;
-            break;
-        case EMR_CREATEPEN:
-            from = 1; // style, width, colour
-            count = 4;
-            break;
-        case EMR_CREATEBRUSHINDIRECT:
-            from = 1; // style, colour
-            count = 2;
-            break;
-        case EMR_POLYGON16:
-            count = 5 + (r.params[4] + 1) / 2; // bounds, count, points
-            break;
-        case EMR_BITBLT:
-            from = 4; // destination and raster operation
-            count = 5;
-            break;
-        case EMR_EXTSELECTCLIPRGN:
-            from = 1; // the mode
-            count = 1;
-            break;
-        case EMR_SELECTOBJECT:
-            // A stock object or one of ours.
-            out += (r.params[0] & 0x80000000u) ? " stock" : " own";
-            break;
-        default:
-            break;
-        }
-        for (size_t k = from; k < from + count && k < r.params.size(); ++k)
-            out += " " + std::to_string(static_cast<int>(r.params[k]));
-        out += "\n";
-    }
-    return out;
-}
 
 // A document of every kind the metafile draws with its own calls: lines with
 // an arc and a pattern, a hatched and a filled region, points, text.
@@ -171,6 +95,8 @@ void everyOperation(QOR::CQorDrawSurface& s) {
     s.brushFree();
     s.penFree();
     s.clipSubtractPolygon({{70, 70}, {90, 70}, {90, 90}, {70, 90}});
+    s.clipSubtractPolygon({{30, 30}, {38, 30}, {30, 30}}); // no area: an empty region
+    s.clipSubtractPolygon({{30, 30}, {38, 30}});           // no polygon: nothing
     s.clipSubtractPolygon({{20, 60}, {35, 75}, {20, 90}, {5, 75}});
     s.clipSubtractPolygon({{40, 80},
                            {60, 80},
@@ -222,7 +148,7 @@ TEST(GdiSurface, EveryOperationRecordsAsOnTheNativeMetafile) {
     for (const Rec& r : b)
         if (r.type == EMR_EXTSELECTCLIPRGN)
             clipsB.push_back(r.params);
-    ASSERT_EQ(clipsA.size(), 5u);
+    ASSERT_EQ(clipsA.size(), 6u);
     EXPECT_EQ(clipsA, clipsB);
     DeleteEnhMetaFile(recorded);
     DeleteEnhMetaFile(native);

@@ -1,0 +1,77 @@
+// qor_render: the command-line renderer of the native build. It draws the demo
+// documents of the sample model with refresh into enhanced metafiles, written by
+// the library's own metafile surface, so pictures can be made without Windows.
+//
+//     qor_render --model DIR --slides LIB --out DIR
+#include "displaylist/gdx.h"
+#include "displaylist/refresh.h"
+#include "foundation/data_item.h"
+#include "foundation/data_text_format.h"
+#include "tools/demo_documents.h"
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+// Arguments are UTF-8; wide strings hold code points (32-bit wchar_t here).
+std::wstring widen(const char* text) {
+    std::wstring out;
+    const auto* p = reinterpret_cast<const unsigned char*>(text);
+    while (*p) {
+        unsigned c = *p++;
+        int more = c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : c >= 0xC0 ? 1 : 0;
+        c &= more == 3 ? 0x07 : more == 2 ? 0x0F : more == 1 ? 0x1F : 0x7F;
+        for (; more > 0 && (*p & 0xC0) == 0x80; --more)
+            c = (c << 6) | (*p++ & 0x3F);
+        out += static_cast<wchar_t>(c);
+    }
+    return out;
+}
+
+std::wstring withSlash(std::wstring dir) {
+    if (!dir.empty() && dir.back() != L'/')
+        dir += L'/';
+    return dir;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    demo::Inputs in;
+    std::wstring outDir;
+    for (int k = 1; k + 1 < argc; k += 2) {
+        const std::string a = argv[k];
+        if (a == "--model")
+            in.modelDir = withSlash(widen(argv[k + 1]));
+        else if (a == "--slides")
+            in.slideLib = widen(argv[k + 1]);
+        else if (a == "--out")
+            outDir = withSlash(widen(argv[k + 1]));
+    }
+    if (in.modelDir.empty() || outDir.empty() || argc % 2 == 0) {
+        std::fprintf(stderr, "usage: qor_render --model DIR [--slides LIB] --out DIR\n");
+        return 2;
+    }
+    CQorDataItem model(1);
+    CQorString error;
+    const std::wstring main = in.modelDir + L"demo_model.qdt";
+    if (!QOR::dataTextReadFile(main.c_str(), model, error)) {
+        std::fprintf(stderr, "qor_render: cannot read %ls: %ls\n", main.c_str(), error.c_str());
+        return 1;
+    }
+    int failed = 0;
+    for (int k = 0; k < demo::count(); ++k) {
+        CQorGDX gdx;
+        const demo::Document d = demo::build(k, model, in, gdx);
+        if (!d.built) {
+            std::printf("  %-8ls  FAILED: nothing drawn (%s)\n", d.name.c_str(), d.title.c_str());
+            ++failed;
+            continue;
+        }
+        const std::wstring file = outDir + d.name + L".emf";
+        refresh(&gdx, file.c_str(), 600, 800);
+        std::printf("  %-8ls  %4d items  %s\n", d.name.c_str(), d.items, d.title.c_str());
+    }
+    return failed == 0 ? 0 : 3;
+}
