@@ -3,6 +3,7 @@
 #include "displaylist/refresh.h"
 #include "foundation/hatch_prop.h"
 #include "gdx_test_util.h"
+#include "tests/framework/clipboard_lock.h"
 #include "tests/framework/test_dib.h"
 
 #include <windows.h>
@@ -104,6 +105,7 @@ void putTextOnClipboard(const wchar_t* text) {
 } // namespace
 
 TEST(RefreshGdi, NullFileLaysTheMetafileOnTheClipboardInFormat14) {
+    ClipboardLock lock;
     putTextOnClipboard(L"before");
     const int filesBefore = emfFilesInWorkingFolder();
     CQorGDX gdx = boxDoc();
@@ -124,6 +126,7 @@ TEST(RefreshGdi, NullFileLaysTheMetafileOnTheClipboardInFormat14) {
 }
 
 TEST(RefreshGdi, FileGetsTheMetafileAndTheClipboardStaysAsItWas) {
+    ClipboardLock lock;
     putTextOnClipboard(L"kept");
     CQorGDX gdx = boxDoc();
     addLine(gdx, {1}, 0, segment(10, 50, 90, 50));

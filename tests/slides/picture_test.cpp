@@ -272,6 +272,7 @@ TEST_F(PictureTest, NullPathReturnsFalseAndKeepsThePicture) {
 }
 
 TEST_F(PictureTest, CopyPutsThePictureAtItsNaturalSizeOnTheClipboard) {
+    ClipboardLock lock;
     load(40, 20);
     wheel(120, 10, 10); // zoom and pan play no part in the copy
     wintest::clearClipboard();

@@ -258,6 +258,7 @@ TEST_F(SlidePicTest, LoadSlideReadsTheResourceOfTheModule) {
 }
 
 TEST_F(SlidePicTest, CopyPutsTheSlideOnTheClipboardAsFormat14) {
+    ClipboardLock lock;
     showBytes(testSlide());
     wintest::WindowPixels painted(pic.m_hWnd); // decodes once: width and height known
     wintest::clearClipboard();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/wnd.h"
+#include "tests/framework/clipboard_lock.h"
 #include "tests/framework/test_dib.h"
 
 #include <windows.h>
