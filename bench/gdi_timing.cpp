@@ -3,6 +3,7 @@
 // GDI. Google Benchmark is not available for the cross build, so this program
 // times with a steady clock and reports the best of several runs.
 #include "bench_documents.h"
+#include "best_of_runs.h"
 #include "displaylist/gdi_surface.h"
 #include "displaylist/item_painter.h"
 #include "displaylist/refresh.h"
@@ -17,16 +18,7 @@
 
 namespace {
 
-double bestMs(int runs, const std::function<void()>& work) {
-    double best = 1e300;
-    for (int r = 0; r < runs; ++r) {
-        const auto t0 = std::chrono::steady_clock::now();
-        work();
-        const auto t1 = std::chrono::steady_clock::now();
-        best = std::min(best, std::chrono::duration<double, std::milli>(t1 - t0).count());
-    }
-    return best;
-}
+using bench::bestMs;
 
 int CALLBACK countRecord(HDC, HANDLETABLE*, const ENHMETARECORD*, int, LPARAM n) {
     ++*reinterpret_cast<int*>(n);

@@ -4,6 +4,7 @@
 // down to where the hatch density guard turns the hatch into a solid fill. Google
 // Benchmark is not available for the cross build: a steady clock, best of runs.
 #include "bench_documents.h"
+#include "best_of_runs.h"
 #include "views/dplist_image.h"
 
 #include <windows.h>
@@ -21,16 +22,7 @@ namespace {
 constexpr int kWidth = 1000;
 constexpr int kHeight = 800;
 
-double bestMs(int runs, const std::function<void()>& work) {
-    double best = 1e300;
-    for (int r = 0; r < runs; ++r) {
-        const auto t0 = std::chrono::steady_clock::now();
-        work();
-        const auto t1 = std::chrono::steady_clock::now();
-        best = std::min(best, std::chrono::duration<double, std::milli>(t1 - t0).count());
-    }
-    return best;
-}
+using bench::bestMs;
 
 // One complete paint of the window, now: WM_PAINT is sent, not queued.
 void paintNow(CWnd& wnd) {
