@@ -834,8 +834,8 @@ static std::string narrowName(const wchar_t* name) {
 
 #endif
 
-static std::FILE* openFile(const wchar_t* name, bool write) {
-    if (!name)
+std::FILE* fileOpen(const wchar_t* name, bool write) {
+    if (!name || !*name)
         return nullptr;
 #if defined(_WIN32)
     return _wfopen(name, write ? L"wb" : L"rb");
@@ -845,7 +845,7 @@ static std::FILE* openFile(const wchar_t* name, bool write) {
 }
 
 bool readFileBytes(const wchar_t* fileName, std::string& out) {
-    std::FILE* f = openFile(fileName, false);
+    std::FILE* f = fileOpen(fileName, false);
     if (!f)
         return false;
     std::string bytes;
@@ -861,7 +861,7 @@ bool readFileBytes(const wchar_t* fileName, std::string& out) {
 }
 
 bool writeFileBytes(const wchar_t* fileName, const std::string& bytes) {
-    std::FILE* f = openFile(fileName, true);
+    std::FILE* f = fileOpen(fileName, true);
     if (!f)
         return false;
     const bool ok = std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();

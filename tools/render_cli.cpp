@@ -7,26 +7,18 @@
 #include "displaylist/refresh.h"
 #include "foundation/data_item.h"
 #include "foundation/data_text_format.h"
+#include "foundation/host/text_file.h"
 #include "tools/demo_documents.h"
 
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 namespace {
 
-// Arguments are UTF-8; wide strings hold code points (32-bit wchar_t here).
+// Arguments are UTF-8.
 std::wstring widen(const char* text) {
-    std::wstring out;
-    const auto* p = reinterpret_cast<const unsigned char*>(text);
-    while (*p) {
-        unsigned c = *p++;
-        int more = c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : c >= 0xC0 ? 1 : 0;
-        c &= more == 3 ? 0x07 : more == 2 ? 0x0F : more == 1 ? 0x1F : 0x7F;
-        for (; more > 0 && (*p & 0xC0) == 0x80; --more)
-            c = (c << 6) | (*p++ & 0x3F);
-        out += static_cast<wchar_t>(c);
-    }
-    return out;
+    return QOR::host::fromUtf8(text, std::strlen(text)).c_str();
 }
 
 std::wstring withSlash(std::wstring dir) {

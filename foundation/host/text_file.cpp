@@ -1,8 +1,9 @@
 #include "foundation/host/text_file.h"
 
+#include "foundation/data_text_format.h"
+
 #include <cstdio>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -16,54 +17,13 @@ void appendCodePoint(std::wstring& out, unsigned long cp) {
     }
 }
 
-#if !defined(_WIN32)
-// File names go to the C library as UTF-8.
-std::string toUtf8(const wchar_t* text) {
-    std::string out;
-    for (const wchar_t* p = text; *p; ++p) {
-        unsigned long cp = static_cast<unsigned long>(*p);
-        if (sizeof(wchar_t) == 2 && cp >= 0xD800 && cp <= 0xDBFF && p[1] >= 0xDC00 &&
-            p[1] <= 0xDFFF) {
-            cp = 0x10000 + ((cp - 0xD800) << 10) + (static_cast<unsigned long>(p[1]) - 0xDC00);
-            ++p;
-        }
-        if (cp < 0x80) {
-            out += static_cast<char>(cp);
-        } else if (cp < 0x800) {
-            out += static_cast<char>(0xC0 | (cp >> 6));
-            out += static_cast<char>(0x80 | (cp & 0x3F));
-        } else if (cp < 0x10000) {
-            out += static_cast<char>(0xE0 | (cp >> 12));
-            out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (cp & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (cp >> 18));
-            out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (cp & 0x3F));
-        }
-    }
-    return out;
-}
-#endif
-
-std::FILE* openRead(const wchar_t* path) {
-    if (!path || !*path)
-        return nullptr;
-#if defined(_WIN32)
-    return _wfopen(path, L"rb");
-#else
-    return std::fopen(toUtf8(path).c_str(), "rb");
-#endif
-}
-
 } // namespace
 
 namespace QOR {
 namespace host {
 
 bool fileReadable(const wchar_t* path) {
-    std::FILE* f = openRead(path);
+    std::FILE* f = fileOpen(path, false);
     if (!f)
         return false;
     std::fclose(f);
@@ -111,15 +71,9 @@ CQorString fromUtf8(const char* bytes, std::size_t size) {
 }
 
 bool textFileLines(const wchar_t* path, CQorArrayTempl<CQorString>& lines) {
-    std::FILE* f = openRead(path);
-    if (!f)
+    std::string bytes;
+    if (!readFileBytes(path, bytes))
         return false;
-    std::vector<char> bytes;
-    char buf[4096];
-    std::size_t got = 0;
-    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0)
-        bytes.insert(bytes.end(), buf, buf + got);
-    std::fclose(f);
     std::size_t start = 0;
     if (bytes.size() >= 3 && static_cast<unsigned char>(bytes[0]) == 0xEF &&
         static_cast<unsigned char>(bytes[1]) == 0xBB &&
