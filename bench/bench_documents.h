@@ -2,7 +2,7 @@
 #pragma once
 
 #include "displaylist/gdx.h"
-#include "foundation/hatch_prop.h"
+#include "foundation/records/hatch_prop.h"
 #include "text/glyph_table.h"
 
 namespace bench {

@@ -1,6 +1,6 @@
-#include "foundation/qor_array_templ.h"
-#include "foundation/qor_map_templ.h"
-#include "foundation/qor_string.h"
+#include "foundation/base/qor_array_templ.h"
+#include "foundation/base/qor_map_templ.h"
+#include "foundation/base/qor_string.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,9 +4,10 @@
 // times with a steady clock and reports the best of several runs.
 #include "bench_documents.h"
 #include "best_of_runs.h"
-#include "displaylist/gdi_surface.h"
-#include "displaylist/item_painter.h"
-#include "displaylist/refresh.h"
+#include "drawing/item_painter.h"
+#include "drawing/refresh.h"
+#include "drawing/win/gdi_surface.h"
+#include "host/install.h"
 
 #include <windows.h>
 
@@ -52,6 +53,7 @@ void rawLines(int pairs) {
 } // namespace
 
 int main() {
+    QOR::host::installDefaultHost();
     wchar_t dir[MAX_PATH] = {};
     GetTempPathW(MAX_PATH, dir);
     const std::wstring file = std::wstring(dir) + L"qor_gdi_timing.emf";

@@ -1,4 +1,4 @@
-#include "foundation/length_text.h"
+#include "foundation/records/length_text.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
-#include "foundation/data_item.h"
-#include "foundation/model_services.h"
+#include "foundation/application/model_services.h"
+#include "foundation/data/data_item.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,8 +1,8 @@
 // The painter into the native metafile surface against a raw loop of the same
 // number of move and line calls on that surface.
 #include "bench_documents.h"
-#include "displaylist/emf_surface.h"
-#include "displaylist/item_painter.h"
+#include "drawing/emf_surface.h"
+#include "drawing/item_painter.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
 #include "foundation/geometry.h"
-#include "foundation/hatch_prop.h"
+#include "foundation/records/hatch_prop.h"
 #include "styling/hatch.h"
 #include "styling/line_pattern.h"
 #include "styling/split.h"

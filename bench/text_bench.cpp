@@ -1,6 +1,7 @@
 #include "displaylist/gdx.h"
-#include "displaylist/gdx_text.h"
 #include "text/glyph_table.h"
+#include "text/text_layout.h"
+#include "text/text_to_regl.h"
 
 #include <benchmark/benchmark.h>
 

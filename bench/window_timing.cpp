@@ -5,6 +5,8 @@
 // Benchmark is not available for the cross build: a steady clock, best of runs.
 #include "bench_documents.h"
 #include "best_of_runs.h"
+#include "host/install.h"
+#include "views/bitmap.h"
 #include "views/dplist_image.h"
 
 #include <windows.h>
@@ -135,6 +137,8 @@ void hatchZoomedOut(CQorDplistImage& image) {
 } // namespace
 
 int main() {
+    QOR::host::installDefaultHost();
+    QOR::pictureLoaderInstall();
     CQorDplistImage image;
     if (!image.Create(nullptr, L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), nullptr,
                       0)) {

@@ -4,7 +4,7 @@ if(NOT QOR_WINDOWS)
     return()
 endif()
 
-add_library(Qor_2016_18_64_Mfc SHARED ${QOR_SOURCE_ROOT}/framework/dll_main.cpp)
+add_library(Qor_2016_18_64_Mfc SHARED ${QOR_SOURCE_ROOT}/dll/dll_main.cpp)
 get_property(_qor_layers GLOBAL PROPERTY QOR_LAYER_LIBRARIES)
 set(_qor_archives)
 foreach(_lib IN LISTS _qor_layers)
@@ -13,8 +13,8 @@ foreach(_lib IN LISTS _qor_layers)
         list(APPEND _qor_archives ${_lib})
     endif()
 endforeach()
-# Every object of every layer goes in, referenced or not, so all exports are there;
-# linking the archives as well brings their system libraries along.
+# A DLL exports what its objects define, referenced or not: every object of every
+# layer goes in. Linking the archives as well brings their system libraries along.
 foreach(_lib IN LISTS _qor_archives)
     target_sources(Qor_2016_18_64_Mfc PRIVATE $<TARGET_OBJECTS:${_lib}>)
 endforeach()

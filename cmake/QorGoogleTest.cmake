@@ -16,13 +16,19 @@ else()
     set(QOR_TEST_DATA_DIR "${_qor_root}/tests/data")
 endif()
 
-# qor_test(name SOURCES ... LIBS ...)
+# qor_test(name [THROUGH_DLL] SOURCES ... LIBS ...)
 # A test program whose tests ctest lists one by one. Under Wine the listing runs at
-# test time, so a build never needs Wine.
+# test time, so a build never needs Wine. Its main wires the library as the DLL does
+# at load (tests/test_main.cpp); THROUGH_DLL programs reach the library through the
+# DLL, which wires itself, and take GoogleTest's own main.
 function(qor_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(ARG "THROUGH_DLL" "" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gmock GTest::gtest_main)
+    if(ARG_THROUGH_DLL)
+        target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gmock GTest::gtest_main)
+    else()
+        target_link_libraries(${name} PRIVATE ${ARG_LIBS} qor_test_main GTest::gmock)
+    endif()
     target_include_directories(${name} PRIVATE ${QOR_SOURCE_ROOT})
     target_compile_definitions(${name} PRIVATE QOR_TEST_DATA_DIR="${QOR_TEST_DATA_DIR}")
     qor_warnings(${name})

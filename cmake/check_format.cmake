@@ -1,6 +1,6 @@
 # Runs clang-format in check mode over every C++ source of the tree.
-set(_dirs foundation displaylist text styling views images slides dialogs controls appdialogs
-          resources framework tools tests bench)
+set(_dirs foundation framework text displaylist styling drawing images slides host views dialogs
+          controls appdialogs resources dll tools tests bench)
 set(_files)
 foreach(_d IN LISTS _dirs)
     file(GLOB_RECURSE _found ${ROOT}/${_d}/*.h ${ROOT}/${_d}/*.cpp)

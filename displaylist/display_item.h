@@ -2,13 +2,13 @@
 // and colour modes.
 #pragma once
 
-#include "foundation/hatch_prop.h"
-#include "foundation/qor_array_templ.h"
-#include "foundation/qor_color.h"
-#include "foundation/qor_matrix3d.h"
-#include "foundation/qor_point3d.h"
-#include "foundation/qor_string.h"
-#include "foundation/qor_vertex_array.h"
+#include "foundation/base/qor_array_templ.h"
+#include "foundation/base/qor_string.h"
+#include "foundation/geometry/qor_matrix3d.h"
+#include "foundation/geometry/qor_point3d.h"
+#include "foundation/geometry/qor_vertex_array.h"
+#include "foundation/records/hatch_prop.h"
+#include "foundation/records/qor_color.h"
 
 #include <cstdint>
 

@@ -1,9 +1,9 @@
 #include "displaylist/gdx.h"
 
 #include "foundation/application.h"
-#include "foundation/color_value.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
+#include "foundation/records/color_value.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "displaylist/display_item.h"
-#include "foundation/qor_point3d_array.h"
-#include "foundation/qor_vector3d.h"
+#include "foundation/geometry/qor_point3d_array.h"
+#include "foundation/geometry/qor_vector3d.h"
 
 class CQorDataItem;
 
@@ -122,8 +122,8 @@ public:
     void clear();
 
     // --- Text items (gdx_text.cpp). Glyph units: cap height 1.0; size, rotation and
-    // placement come from mtx. From a string: laid out with the installed glyph
-    // source (QOR::gdxGlyphSourceSet), aligned by align, at point; a null text or
+    // placement come from mtx. From a string: laid out with the built-in font
+    // (text/text_layout.h), aligned by align, at point; a null text or
     // alignment counts as empty. From a data item: the regions the host answers to
     // "qor_text_to_regl"; false, with nothing added, for a null item, one that is no
     // directory, or no regions. Unless the flag has GDX_FLAG_NO_EXT or

@@ -1,10 +1,10 @@
 #include "displaylist/gdx_map.h"
 
-#include "foundation/color_value.h"
+#include "foundation/base/qor_map_templ.h"
+#include "foundation/base/qor_str_fcn.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
-#include "foundation/qor_map_templ.h"
-#include "foundation/qor_str_fcn.h"
+#include "foundation/records/color_value.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 // directions of view, and vertex arrays seen from a direction.
 #pragma once
 
-#include "foundation/qor_matrix3d.h"
-#include "foundation/qor_point3d.h"
-#include "foundation/qor_string.h"
-#include "foundation/qor_vector3d.h"
-#include "foundation/qor_vertex_array.h"
+#include "foundation/base/qor_string.h"
+#include "foundation/geometry/qor_matrix3d.h"
+#include "foundation/geometry/qor_point3d.h"
+#include "foundation/geometry/qor_vector3d.h"
+#include "foundation/geometry/qor_vertex_array.h"
 
 // The view that fits the box min..max into an output area of width by height
 // device units, y pointing down, origin at the upper left. The margin is the given

@@ -1,7 +1,7 @@
 // CDC: a device context and the drawing operations of the library's painters.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 #include "framework/point.h"
 
 #include <windows.h>

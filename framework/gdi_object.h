@@ -1,7 +1,7 @@
 // CGdiObject: the owning wrapper of one GDI object (pen, brush, region, bitmap...).
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 #include <windows.h>
 

@@ -2,7 +2,7 @@
 // cursors and strings load from, and the application object.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 #include <windows.h>
 

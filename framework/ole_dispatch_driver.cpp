@@ -1,6 +1,6 @@
 #include "framework/ole_dispatch_driver.h"
 
-#include "foundation/qor_string.h"
+#include "foundation/base/qor_string.h"
 
 #include <oleauto.h>
 

@@ -1,7 +1,7 @@
 // COleDispatchDriver: the client side of an automation object's IDispatch.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 #include <oaidl.h>
 #include <windows.h>

@@ -1,7 +1,7 @@
 // CRuntimeClass: the name, size and base of a window class, known at run time.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 // A class declares itself dynamic with DECLARE_DYNAMIC(CMyWnd) in its body and
 // IMPLEMENT_DYNAMIC(CMyWnd, CWnd) in its source; RUNTIME_CLASS(CMyWnd) then gives

@@ -3,7 +3,7 @@
 // InitInstance at load and ExitInstance at unload.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 #include <windows.h>
 

@@ -2,7 +2,7 @@
 // processing and the window operations of the library.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 #include "framework/dc.h"
 #include "framework/message_map.h"
 #include "framework/point.h"

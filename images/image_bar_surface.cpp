@@ -1,11 +1,11 @@
 #include "images/image_bar_surface.h"
 
 #include "displaylist/gdx.h"
-#include "foundation/color_value.h"
+#include "foundation/application/model_services.h"
 #include "foundation/data_tree.h"
-#include "foundation/hatch_prop.h"
-#include "foundation/model_services.h"
-#include "foundation/qor_geom_fcn.h"
+#include "foundation/geometry/qor_geom_fcn.h"
+#include "foundation/records/color_value.h"
+#include "foundation/records/hatch_prop.h"
 
 #include <memory>
 

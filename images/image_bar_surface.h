@@ -1,7 +1,7 @@
 // qor_gdx_image_bar_surface: the image function of a bar's section with its surfaces.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 class CQorGDX;
 namespace QOR {

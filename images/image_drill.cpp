@@ -3,11 +3,11 @@
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
 #include "foundation/application.h"
+#include "foundation/application/model_services.h"
+#include "foundation/data/resbuf_value.h"
 #include "foundation/data_tree.h"
-#include "foundation/layer_mgr.h"
-#include "foundation/model_services.h"
-#include "foundation/qor_vertex_array_ex.h"
-#include "foundation/resbuf_value.h"
+#include "foundation/geometry/qor_vertex_array_ex.h"
+#include "foundation/records/layer_mgr.h"
 
 namespace {
 

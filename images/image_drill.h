@@ -1,7 +1,7 @@
 // qor_gdx_image_drill: the image function of a drill.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 class CQorGDX;
 namespace QOR {

@@ -1,12 +1,12 @@
 #include "images/image_fsheet.h"
 
 #include "displaylist/gdx.h"
-#include "foundation/color_value.h"
+#include "foundation/application/model_services.h"
+#include "foundation/data/resbuf_value.h"
 #include "foundation/data_tree.h"
-#include "foundation/hatch_prop.h"
-#include "foundation/layer_mgr.h"
-#include "foundation/model_services.h"
-#include "foundation/resbuf_value.h"
+#include "foundation/records/color_value.h"
+#include "foundation/records/hatch_prop.h"
+#include "foundation/records/layer_mgr.h"
 
 #include <cmath>
 #include <memory>

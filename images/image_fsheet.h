@@ -1,7 +1,7 @@
 // qor_gdx_image_fsheet: the image function of a sheet or sandwich panel in section.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 class CQorGDX;
 namespace QOR {

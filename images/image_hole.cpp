@@ -2,12 +2,12 @@
 
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
-#include "foundation/ads_name.h"
 #include "foundation/application.h"
+#include "foundation/application/model_services.h"
+#include "foundation/data/ads_name.h"
 #include "foundation/data_tree.h"
-#include "foundation/hatch_prop.h"
-#include "foundation/layer_mgr.h"
-#include "foundation/model_services.h"
+#include "foundation/records/hatch_prop.h"
+#include "foundation/records/layer_mgr.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "images/image_registry.h"
 
-#include "foundation/qor_map_templ.h"
-#include "foundation/qor_string.h"
+#include "foundation/base/qor_map_templ.h"
+#include "foundation/base/qor_string.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The table of image functions: object kinds by name to the functions that draw them.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 class CQorGDX;
 namespace QOR {

@@ -1,7 +1,7 @@
 // qor_gdx_image_sld: a slide out of a slide library as display list items.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 class CQorGDX;
 class CQorDataItem;

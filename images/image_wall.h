@@ -1,7 +1,7 @@
 // qor_wall_edit_image: the picture of the wall that the user is editing.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 class CQorGDX;
 namespace QOR {

@@ -2,10 +2,10 @@
 
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
-#include "foundation/data_text_format.h"
+#include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
-#include "foundation/hatch_prop.h"
-#include "foundation/qor_geom_fcn.h"
+#include "foundation/geometry/qor_geom_fcn.h"
+#include "foundation/records/hatch_prop.h"
 #include "slides/slide_library.h"
 
 namespace QOR {

@@ -1,12 +1,12 @@
 // QOR::CGdxSld: a slide out of a slide library, decoded into display list items.
 #pragma once
 
-#include "foundation/qor_export.h"
-#include "foundation/qor_obj.h"
+#include "foundation/base/qor_export.h"
+#include "foundation/base/qor_obj.h"
 #include "slides/slide_decoder.h"
 
 #if defined(_WIN32)
-#include "slides/slide_pic.h"
+#include "slides/win/slide_pic.h"
 #endif
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "slides/picture_geometry.h"
 
-#include "displaylist/draw_surface.h"
+#include "drawing/draw_surface.h"
 
 #include <limits>
 

@@ -3,7 +3,7 @@
 // platform's picture object and messages.
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 namespace QOR {
 

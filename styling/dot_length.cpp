@@ -1,6 +1,6 @@
 #include "styling/dot_length.h"
 
-#include "foundation/units.h"
+#include "foundation/records/units.h"
 
 namespace QOR {
 

@@ -1,7 +1,7 @@
 // The drawn length of a dot (a zero entry of a dash list).
 #pragma once
 
-#include "foundation/qor_export.h"
+#include "foundation/base/qor_export.h"
 
 namespace QOR {
 

@@ -1,6 +1,6 @@
 #include "styling/hatch.h"
 
-#include "foundation/qor_app.h"
+#include "foundation/application/qor_app.h"
 #include "styling/dot_length.h"
 
 #include <cmath>
@@ -293,7 +293,7 @@ CQorArrayTempl<CQorVertexArray> hatchRegion2(CQorArrayTempl<CQorVertexArray> reg
         app->hatchPatternGet(prop.name, table);
     }
 
-    vllOrient(regions, CQorVector3d::kZAxis);
+    g_vll_orient(regions, CQorVector3d::kZAxis);
     const CQorMatrix3d inv = mtx.inverse();
     for (int c = 0; c < regions.len(); ++c)
         regions[c].transformBy(inv);
@@ -306,7 +306,7 @@ CQorArrayTempl<CQorVertexArray> hatchRegion2(CQorArrayTempl<CQorVertexArray> reg
     const CQorPoint3dArray ext = g_vl_extmax(regions[0], 0.0);
     s.diag = ext[0].distanceTo(ext[1]);
     // Again, because mtx may have mirrored.
-    vllOrient(regions, CQorVector3d::kZAxis);
+    g_vll_orient(regions, CQorVector3d::kZAxis);
     s.dot = styleDotLength();
     s.rot.setToRotation(prop.angle, CQorVector3d::kZAxis, CQorPoint3d::kOrigin);
     s.rotBack.setToRotation(-prop.angle, CQorVector3d::kZAxis, CQorPoint3d::kOrigin);

@@ -6,9 +6,9 @@
 // matrix. A region list is the outer contour followed by its holes.
 #pragma once
 
+#include "foundation/base/qor_export.h"
 #include "foundation/geometry.h"
-#include "foundation/hatch_prop.h"
-#include "foundation/qor_export.h"
+#include "foundation/records/hatch_prop.h"
 
 namespace QOR {
 
@@ -45,10 +45,6 @@ QOR_API CQorArrayTempl<CQorVertexArray> hatchRegion2(CQorArrayTempl<CQorVertexAr
                                                      const CQorMatrix3d& mtx,
                                                      const CHatchProp& prop,
                                                      CQorArrayTempl<HatchFamilyStats>* stats);
-
-// Turns each closed contour of list to run positively about axis (reversed when
-// QOR::g_vl_orient says it does not); open contours are left as they are.
-QOR_API void vllOrient(CQorArrayTempl<CQorVertexArray>& list, const CQorVector3d& axis);
 
 // The crossings of the first vertex of line with all contours, each point once,
 // sorted along the vector from the end of that vertex to its start. An odd count

@@ -2,14 +2,6 @@
 
 namespace QOR {
 
-void vllOrient(CQorArrayTempl<CQorVertexArray>& list, const CQorVector3d& axis) {
-    for (int i = 0; i < list.len(); ++i) {
-        CQorVertexArray& c = list[i];
-        if (c.isClosed() && !g_vl_orient(c, axis))
-            c.revert();
-    }
-}
-
 CQorPoint3dArray hatchLineCrossings(const CQorArrayTempl<CQorVertexArray>& contours,
                                     const CQorVertexArray& line) {
     CQorPoint3dArray result;

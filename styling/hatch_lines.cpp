@@ -63,7 +63,7 @@ CQorArrayTempl<CQorVertexArray> qor_gdx_image_reg_hatch(CQorArrayTempl<CQorVerte
                                                         const CQorMatrix3d& mtx,
                                                         const CQorString& name, double step,
                                                         double angle) {
-    QOR::vllOrient(regions, CQorVector3d::kZAxis);
+    QOR::g_vll_orient(regions, CQorVector3d::kZAxis);
     const CQorMatrix3d inv = mtx.inverse();
     for (int c = 0; c < regions.len(); ++c)
         regions[c].transformBy(inv);

@@ -1,8 +1,8 @@
 // Line patterns: the visible pieces of a dash list along a vertex array.
 #pragma once
 
+#include "foundation/base/qor_export.h"
 #include "foundation/geometry.h"
-#include "foundation/qor_export.h"
 
 namespace QOR {
 

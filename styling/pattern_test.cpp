@@ -1,6 +1,6 @@
 #include "styling/hatch.h"
 
-#include "foundation/qor_app.h"
+#include "foundation/application/qor_app.h"
 
 #include <algorithm>
 #include <cfloat>
@@ -18,7 +18,7 @@ bool qor_gdx_pattern_test(CQorArrayTempl<CQorVertexArray> regions, const QOR::CH
     if (CQorApp* app = qorAppPtr())
         app->hatchPatternGet(prop.name, table);
 
-    QOR::vllOrient(regions, CQorVector3d::kZAxis);
+    QOR::g_vll_orient(regions, CQorVector3d::kZAxis);
     double most = -DBL_MAX;
     double least = DBL_MAX;
     for (int f = 0; f < table.len(); ++f) {

@@ -1,8 +1,8 @@
 // Arcs to chords: the straight-stroke form of vertex arrays and regions.
 #pragma once
 
+#include "foundation/base/qor_export.h"
 #include "foundation/geometry.h"
-#include "foundation/qor_export.h"
 
 namespace QOR {
 

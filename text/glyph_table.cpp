@@ -1,10 +1,7 @@
 #include "text/glyph_table.h"
 
-#include "displaylist/gdx_text.h"
-#include "foundation/host/default_app.h"
-#include "foundation/qor_map_templ.h"
+#include "foundation/base/qor_map_templ.h"
 #include "text/glyph_data.h"
-#include "text/text_layout.h"
 
 namespace {
 
@@ -15,13 +12,6 @@ GlyphMap& table() {
     static GlyphMap s_table;
     return s_table;
 }
-
-// The font is wired into the layers below it when the library loads: the display
-// list lays text items out with it, and the default host answers
-// "qor_text_to_regl" with it.
-[[maybe_unused]] const bool s_installed =
-    (QOR::gdxGlyphSourceSet(&get_ascii_from_map),
-     QOR::defaultAppPtr()->lispFunctionSet(L"qor_text_to_regl", &qorHostTextToRegl), true);
 
 // A builder fills one scratch glyph per character, sets it in the table and empties
 // the contours it used. The emptied contours stay in the scratch glyph, so a

@@ -1,9 +1,9 @@
 // The built-in vector font: a table from a character to the regions of its shape.
 #pragma once
 
-#include "foundation/qor_array_templ.h"
-#include "foundation/qor_export.h"
-#include "foundation/qor_vertex_array.h"
+#include "foundation/base/qor_array_templ.h"
+#include "foundation/base/qor_export.h"
+#include "foundation/geometry/qor_vertex_array.h"
 
 // A copy of the glyph of c, an empty list when the font has none (the blank, the
 // grave accent, control characters, and everything above 126 except ± ² ³ º ¼ ½ ¾

@@ -1,59 +1,83 @@
 #include "text/text_layout.h"
 
-#include "displaylist/gdx_text.h"
-#include "foundation/qor_string.h"
-#include "foundation/resbuf_value.h"
-#include "text/glyph_table.h"
+#include "foundation/geometry.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace {
 
-// Reads one (key value) pair: a list whose first node is a string key and whose
-// second node is a string value. Other pairs are passed over.
-void readPair(const resbuf* pair, CQorString& text, bool& hasText, CQorString& align) {
-    if (!pair || pair->restype != QOR::kRtLb)
-        return;
-    const resbuf* key = pair->rbnext;
-    if (!key || key->restype != QOR::kRtStr || !key->resval.rstring)
-        return;
-    const resbuf* value = key->rbnext;
-    if (!value || value->restype != QOR::kRtStr || !value->resval.rstring)
-        return;
-    const CQorString name(key->resval.rstring);
-    if (name == L"TXT") {
-        text = value->resval.rstring;
-        hasText = true;
-    } else if (name == L"ALIGN") {
-        align = value->resval.rstring;
-    }
+struct AlignShift {
+    const wchar_t* key;
+    double fw; // factor of the text width
+    double fh; // factor of the text height
+};
+const AlignShift kAlignShifts[] = {
+    {L"TL", 0.0, -1.0},  {L"TC", -0.5, -1.0}, {L"TR", -1.0, -1.0}, {L"CL", 0.0, -0.5},
+    {L"CC", -0.5, -0.5}, {L"CR", -1.0, -0.5}, {L"BC", -0.5, 0.0},  {L"BR", -1.0, 0.0},
+};
+
+CQorVector3d alignShift(const CQorString& align, double w, double h) {
+    for (const AlignShift& a : kAlignShifts)
+        if (align == a.key)
+            return CQorVector3d(a.fw * w, a.fh * h, 0.0);
+    return CQorVector3d(0.0, 0.0, 0.0);
 }
 
 } // namespace
 
-int qorHostTextToRegl(resbuf* arguments, QOR::CSmartResbuf& result) {
-    result.reset();
-    if (!arguments || arguments->restype != QOR::kRtLb)
-        return QOR::kRtError;
-    bool ok = true;
-    const resbuf* after = QOR::rbListEnd(arguments, ok);
-    if (!ok || !after || after->restype != QOR::kRtReal)
-        return QOR::kRtError;
-    const double value = after->resval.rreal;
+namespace QOR {
 
-    CQorString text, align;
-    bool hasText = false;
-    const resbuf* first = arguments->rbnext;
-    if (first && first->restype == QOR::kRtLb) {
-        // A list of pairs: walk its elements up to the closing 5017.
-        for (const resbuf* node = first; node && node != after && node->restype == QOR::kRtLb;
-             node = QOR::rbSkipElement(node))
-            readPair(node, text, hasText, align);
-    } else {
-        readPair(arguments, text, hasText, align); // the item had one entry
+GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint3d& point,
+                       GlyphFn glyphs) {
+    const CQorString text(txt ? txt : L"");
+    const CQorString alignment(align ? align : L"");
+    GlyphRegions out;
+    double advance = 0.0;
+    double h = 0.0;
+    // lo and hi outlive the regions: a region whose first contour is empty leaves
+    // them as the region before left them.
+    CQorPoint3d lo, hi, gmin, gmax;
+    for (int ci = 0; ci < text.len(); ++ci) {
+        GlyphRegions glyph;
+        if (glyphs)
+            glyph = glyphs(text[ci]);
+        if (glyph.len() == 0)
+            continue; // no shape and no room: a blank closes the text up
+        const CQorVector3d offset = (point + CQorVector3d(advance, 0.0, 0.0)) - CQorPoint3d();
+        for (int r = 0; r < glyph.len(); ++r) {
+            CQorArrayTempl<CQorVertexArray>& region = glyph[r];
+            QOR::g_vll_orient(region, CQorVector3d::kZAxis);
+            for (CQorVertexArray& contour : region)
+                contour.move(offset);
+            const CQorVertexArray& first = region[0]; // grows an empty region by one
+            if (first.len() > 0)
+                first.extents(lo, hi);
+            if (r == 0) {
+                gmin = lo;
+                gmax = hi;
+            } else {
+                gmax = QOR::p_max(gmax, hi);
+                gmin = QOR::p_min(gmin, lo);
+            }
+            out.append(std::move(region));
+        }
+        advance += std::fabs(gmin.x - gmax.x) + kTxtLetterGap;
+        h = std::max(h, gmax.y);
     }
-    if (!hasText)
-        text.format(L"%.6g", value);
-    const QOR::GlyphRegions regions =
-        QOR::txtLayout(text.c_str(), align.c_str(), CQorPoint3d(), &get_ascii_from_map);
-    result.reset(QOR::mkResbuf(regions));
-    return QOR::kRtNorm;
+    const double w = advance - kTxtEndCorrection;
+    const CQorVector3d shift = alignShift(alignment, w, h);
+    // Both bounds are the number of regions, as element access: contours with an
+    // index of n or more stay where they are (one letter's hole stays behind).
+    const int n = out.len();
+    for (int b = 0; b < n; ++b) {
+        CQorArrayTempl<CQorVertexArray>& region = out[b];
+        const int last = n <= kTxtPadLimit ? n : std::min(n, region.len());
+        for (int c = 0; c < last; ++c)
+            region[c].move(shift);
+    }
+    return out;
 }
+
+} // namespace QOR

@@ -6,11 +6,12 @@
 #include <windows.h>
 
 #include "displaylist/gdx.h"
-#include "displaylist/refresh.h"
-#include "foundation/data_item.h"
-#include "foundation/data_text_format.h"
-#include "foundation/host/default_app.h"
-#include "foundation/qor_app.h"
+#include "drawing/refresh.h"
+#include "foundation/application/qor_app.h"
+#include "foundation/data/data_item.h"
+#include "foundation/data/data_text_format.h"
+#include "host/default_app.h"
+#include "host/install.h"
 #include "tools/demo_documents.h"
 #include "tools/demo_preview.h"
 #include "tools/demo_viewer.h"
@@ -99,6 +100,9 @@ int renderAll(const demo::Inputs& in, const std::wstring& outDir) {
 } // namespace
 
 int wmain(int argc, wchar_t** argv) {
+    // The DLL wired its default host when it loaded; calling the wiring point again
+    // changes nothing.
+    QOR::host::installDefaultHost();
     bool listExports = false;
     demo::Inputs in;
     std::wstring outDir;

@@ -4,10 +4,11 @@
 //
 //     qor_render --model DIR --slides LIB --out DIR
 #include "displaylist/gdx.h"
-#include "displaylist/refresh.h"
-#include "foundation/data_item.h"
-#include "foundation/data_text_format.h"
-#include "foundation/host/text_file.h"
+#include "drawing/refresh.h"
+#include "foundation/data/data_item.h"
+#include "foundation/data/data_text_format.h"
+#include "host/install.h"
+#include "host/text_file.h"
 #include "tools/demo_documents.h"
 
 #include <cstdio>
@@ -30,6 +31,7 @@ std::wstring withSlash(std::wstring dir) {
 } // namespace
 
 int main(int argc, char** argv) {
+    QOR::host::installDefaultHost();
     demo::Inputs in;
     std::wstring outDir;
     for (int k = 1; k + 1 < argc; k += 2) {

@@ -1,10 +1,10 @@
 #include "views/bitmap.h"
 
-#include "displaylist/gdi_surface.h"
-#include "displaylist/picture_loader.h"
-#include "foundation/app_file_name.h"
-#include "foundation/app_files.h"
-#include "foundation/qor_map_templ.h"
+#include "drawing/picture_loader.h"
+#include "drawing/win/gdi_surface.h"
+#include "foundation/application/app_file_name.h"
+#include "foundation/application/app_files.h"
+#include "foundation/base/qor_map_templ.h"
 #include "framework/bitmap.h"
 #include "framework/dc.h"
 
@@ -115,10 +115,15 @@ bool loadPicture(const CQorString& name, int number, int width, int height, bool
     return ok;
 }
 
-// Every painter made after the library is loaded draws picture items.
-const bool g_loaderInstalled = (QOR::pictureLoaderDefaultSet(loadPicture), true);
-
 } // namespace
+
+namespace QOR {
+
+void pictureLoaderInstall() {
+    pictureLoaderDefaultSet(loadPicture);
+}
+
+} // namespace QOR
 
 HBITMAP qor_gdx_image_get_bitmap(const CQorString& name, int number, int width, int height,
                                  bool& transparent, unsigned long bkColor) {

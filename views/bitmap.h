@@ -4,8 +4,8 @@
 
 #include <windows.h>
 
-#include "foundation/qor_export.h"
-#include "foundation/qor_string.h"
+#include "foundation/base/qor_export.h"
+#include "foundation/base/qor_string.h"
 
 // The picture named by a picture item as a bitmap of the display's colour depth,
 // owned by the caller (DeleteObject); null when there is none.
@@ -44,4 +44,11 @@ QOR_API unsigned long bitmapBkColorVote(HDC dc, int width, int height);
 // vote above) by three raster copies through a one-bit mask.
 QOR_API void bitmapDrawTransparent(HDC dc, int x, int y, HBITMAP bitmap);
 
+} // namespace QOR
+
+namespace QOR {
+// Makes the bitmaps of qor_gdx_image_get_bitmap the pictures of picture items for
+// every painter made from now on (metafile and screen). The library calls it at
+// load, beside QOR::host::installDefaultHost; Windows test programs at start.
+QOR_API void pictureLoaderInstall();
 } // namespace QOR

@@ -1,8 +1,8 @@
 #include "views/dplist_image.h"
 
-#include "displaylist/gdi_surface.h"
-#include "displaylist/item_painter.h"
 #include "displaylist/view_mtx.h"
+#include "drawing/item_painter.h"
+#include "drawing/win/gdi_surface.h"
 #include "framework/bitmap.h"
 #include "framework/module_state.h"
 #include "framework/paint_dc.h"

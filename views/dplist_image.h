@@ -3,8 +3,8 @@
 // middle double click and picking with the left button.
 #pragma once
 
-#include "displaylist/draw_surface.h"
 #include "displaylist/gdx.h"
+#include "drawing/draw_surface.h"
 #include "framework/wnd.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "views/vll_image.h"
 
-#include "foundation/qor_app.h"
+#include "foundation/application/qor_app.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "displaylist/gdx_map.h"
 
 #include "foundation/application.h"
-#include "foundation/config.h"
-#include "foundation/data_text_format.h"
+#include "foundation/data/config.h"
+#include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
 
 #include "gdx_test_util.h"

@@ -1,10 +1,12 @@
-#include "displaylist/gdx_text.h"
+#include "text/glyph_table.h"
+#include "text/text_layout.h"
+#include "text/text_to_regl.h"
 
+#include "foundation/data/resbuf_value.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
-#include "foundation/host/default_app.h"
-#include "foundation/resbuf_value.h"
 #include "gdx_test_util.h"
+#include "host/default_app.h"
 
 #include <gtest/gtest.h>
 
@@ -41,12 +43,28 @@ Regions fakeGlyph(wchar_t c) {
     return g;
 }
 
-class GdxText : public ::testing::Test {
-protected:
-    void SetUp() override { m_before = QOR::gdxGlyphSourceSet(&fakeGlyph); }
-    void TearDown() override { QOR::gdxGlyphSourceSet(m_before); }
-    QOR::GlyphFn m_before = nullptr;
-};
+// Layouts with the test glyphs above.
+class GdxText : public ::testing::Test {};
+
+// Text items, laid out with the built-in font.
+class GdxTextItem : public ::testing::Test {};
+
+// The box of the first contours of a layout's regions under m.
+bool layoutBox(const Regions& regions, CQorMatrix3d m, CQorPoint3d& lo, CQorPoint3d& hi) {
+    bool any = false;
+    for (const CQorArrayTempl<CQorVertexArray>& region : regions) {
+        CQorVertexArray first = region[0];
+        if (first.len() == 0)
+            continue;
+        first.transformBy(static_cast<double(*)[4]>(m));
+        CQorPoint3d a, b;
+        first.extents(a, b);
+        lo = any ? QOR::p_min(lo, a) : a;
+        hi = any ? QOR::p_max(hi, b) : b;
+        any = true;
+    }
+    return any;
+}
 
 void box(const CQorVertexArray& vl, CQorPoint3d& lo, CQorPoint3d& hi) {
     ASSERT_GT(vl.len(), 0);
@@ -219,16 +237,16 @@ TEST_F(GdxText, CharactersWithoutGlyphTakeNoRoom) {
     EXPECT_EQ(QOR::txtLayout(L"aa", L"", CQorPoint3d(), nullptr).len(), 0);
 }
 
-TEST_F(GdxText, ImageTxtStoresTheItemAndFoldsEveryRegionsFirstContour) {
+TEST_F(GdxTextItem, ImageTxtStoresTheItemAndFoldsEveryRegionsFirstContour) {
     CQorGDX gdx = plainDoc();
     CQorMatrix3d m;
     m.setToScaling(2.0, CQorPoint3d());
-    gdx.imageTxt(path({4, 1}), 17, L"ab", indexed(3), m, L"BL", CQorPoint3d(1.0, 0.0, 0.0),
+    gdx.imageTxt(path({4, 1}), 17, L"HO", indexed(3), m, L"BL", CQorPoint3d(1.0, 0.0, 0.0),
                  CQorPoint3d(9.0, 9.0, 0.0));
     ASSERT_EQ(gdx.lenGet(), 1);
     EXPECT_EQ(gdx.typeGet(0), GDX_TXT);
     EXPECT_EQ(gdx.flagGet(0), 17ul);
-    EXPECT_EQ(gdx.txtGet(0), L"ab");
+    EXPECT_EQ(gdx.txtGet(0), L"HO");
     EXPECT_EQ(gdx.txtAlignGet(0), L"BL");
     EXPECT_EQ(gdx.txtPointGet(0), CQorPoint3d(1.0, 0.0, 0.0));
     ASSERT_EQ(gdx.linetypeGet(0).len(), 3);
@@ -241,26 +259,39 @@ TEST_F(GdxText, ImageTxtStoresTheItemAndFoldsEveryRegionsFirstContour) {
     EXPECT_EQ(anchor.len(), 0); // no anchor without GDX_FLAG_FIXED_SIZE
     Regions regions;
     gdx.geomGet(regions, 0);
-    ASSERT_EQ(regions.len(), 4);
-    // "a" at 1..2, "b" at 2.5..4.5; scaled by 2. The empty regions fold the origin.
-    CQorPoint3d lo, hi;
+    const Regions expected =
+        QOR::txtLayout(L"HO", L"BL", CQorPoint3d(1.0, 0.0, 0.0), &get_ascii_from_map);
+    ASSERT_GT(expected.len(), 1);
+    ASSERT_EQ(regions.len(), expected.len());
+    for (int r = 0; r < regions.len(); ++r) {
+        ASSERT_EQ(regions[r].len(), expected[r].len()) << r;
+        for (int c = 0; c < regions[r].len(); ++c)
+            EXPECT_EQ(regions[r][c].len(), expected[r][c].len()) << r << " " << c;
+    }
+    // "H" begins at the insertion point x = 1 plus its own left bearing; everything is
+    // scaled by 2.
+    CQorPoint3d lo, hi, elo, ehi;
     ASSERT_TRUE(gdx.extmaxGet(lo, hi));
-    EXPECT_NEAR(lo.x, 0.0, 1e-12);
-    EXPECT_NEAR(hi.x, 9.0, 1e-12);
-    EXPECT_NEAR(hi.y, 2.0, 1e-12);
+    ASSERT_TRUE(layoutBox(expected, m, elo, ehi));
+    EXPECT_NEAR(lo.x, elo.x, 1e-12);
+    EXPECT_NEAR(hi.x, ehi.x, 1e-12);
+    EXPECT_NEAR(hi.y, ehi.y, 1e-12);
+    CQorPoint3d hLo, hHi;
+    get_ascii_from_map(L'H')[0][0].extents(hLo, hHi);
+    EXPECT_NEAR(lo.x, 2.0 * (1.0 + hLo.x), 1e-12);
 }
 
-TEST_F(GdxText, NoExtentsOrFixedSizeLeaveTheCacheOnAdding) {
+TEST_F(GdxTextItem, NoExtentsOrFixedSizeLeaveTheCacheOnAdding) {
     for (unsigned long flag : {0x08ul, 0x80ul}) {
         CQorGDX gdx = plainDoc();
         addLine(gdx, {1}, 0, segment(-1, -1, 0.5, 0.5));
-        gdx.imageTxt(path({2}), flag, L"aa", indexed(1), CQorMatrix3d(), L"", CQorPoint3d(),
+        gdx.imageTxt(path({2}), flag, L"HH", indexed(1), CQorMatrix3d(), L"", CQorPoint3d(),
                      CQorPoint3d(7.0, 8.0, 0.0));
         CQorPoint3d lo, hi;
         ASSERT_TRUE(gdx.extmaxGet(lo, hi));
         EXPECT_EQ(hi.x, 0.5) << flag;
         // The setters rebuild by the rules of the rebuild, which passes over them too.
-        EXPECT_TRUE(gdx.txtSet(path({2}), L"aaaa"));
+        EXPECT_TRUE(gdx.txtSet(path({2}), L"HHHH"));
         ASSERT_TRUE(gdx.extmaxGet(lo, hi));
         EXPECT_EQ(hi.x, 0.5) << flag;
         if (flag == 0x80ul) {
@@ -274,37 +305,46 @@ TEST_F(GdxText, NoExtentsOrFixedSizeLeaveTheCacheOnAdding) {
     }
 }
 
-TEST_F(GdxText, SettersLayOutAgainAndRebuildTheExtents) {
+TEST_F(GdxTextItem, SettersLayOutAgainAndRebuildTheExtents) {
     CQorGDX gdx = plainDoc();
-    gdx.imageTxt(path({3, 1}), 0, L"a", indexed(1), CQorMatrix3d(), L"", CQorPoint3d(),
+    gdx.imageTxt(path({3, 1}), 0, L"H", indexed(1), CQorMatrix3d(), L"", CQorPoint3d(),
                  CQorPoint3d());
-    gdx.imageTxt(path({5}), 0, L"a", indexed(1), CQorMatrix3d(), L"", CQorPoint3d(), CQorPoint3d());
-    EXPECT_TRUE(gdx.txtSet(path({3}), L"aa"));
-    EXPECT_EQ(gdx.txtGet(0), L"aa");
-    EXPECT_EQ(gdx.txtGet(1), L"a");
+    gdx.imageTxt(path({5}), 0, L"H", indexed(1), CQorMatrix3d(), L"", CQorPoint3d(), CQorPoint3d());
+    EXPECT_TRUE(gdx.txtSet(path({3}), L"HH"));
+    EXPECT_EQ(gdx.txtGet(0), L"HH");
+    EXPECT_EQ(gdx.txtGet(1), L"H");
     Regions regions;
     gdx.geomGet(regions, 0);
-    EXPECT_EQ(regions.len(), 2);
-    CQorPoint3d lo, hi;
+    const Regions hh = QOR::txtLayout(L"HH", L"", CQorPoint3d(), &get_ascii_from_map);
+    EXPECT_EQ(regions.len(), hh.len());
+    CQorPoint3d lo, hi, elo, ehi;
     ASSERT_TRUE(gdx.extmaxGet(lo, hi));
-    EXPECT_NEAR(hi.x, 2.5, 1e-12);
+    ASSERT_TRUE(layoutBox(hh, CQorMatrix3d(), elo, ehi));
+    EXPECT_NEAR(hi.x, ehi.x, 1e-12);
 
     EXPECT_TRUE(gdx.txtAlignSet(path({3}), L"TR"));
     EXPECT_TRUE(gdx.txtAlignSet(path({5}), L"TR"));
     EXPECT_EQ(gdx.txtAlignGet(0), L"TR");
+    // Rebuilt, not grown: both texts now end left of the origin and below it.
     ASSERT_TRUE(gdx.extmaxGet(lo, hi));
-    // Rebuilt, not grown: "aa" now spans -2.7..-0.2 and "a" -1.2..-0.2.
-    EXPECT_NEAR(hi.x, -0.2, 1e-12);
-    EXPECT_NEAR(lo.x, -2.7, 1e-12);
-    EXPECT_NEAR(hi.y, 0.0, 1e-12);
+    const Regions hhTr = QOR::txtLayout(L"HH", L"TR", CQorPoint3d(), &get_ascii_from_map);
+    ASSERT_TRUE(layoutBox(hhTr, CQorMatrix3d(), elo, ehi));
+    EXPECT_NEAR(hi.x, ehi.x, 1e-12);
+    EXPECT_NEAR(lo.x, elo.x, 1e-12);
+    EXPECT_LT(hi.x, 0.0);
+    EXPECT_NEAR(hi.y, 0.0, 1e-9);
 
     gdx.txtPointSet(path({5}), CQorPoint3d(10.0, 0.0, 0.0));
     EXPECT_EQ(gdx.txtPointGet(1), CQorPoint3d(10.0, 0.0, 0.0));
     ASSERT_TRUE(gdx.extmaxGet(lo, hi));
-    EXPECT_NEAR(hi.x, 9.8, 1e-12);
+    const Regions hTr =
+        QOR::txtLayout(L"H", L"TR", CQorPoint3d(10.0, 0.0, 0.0), &get_ascii_from_map);
+    ASSERT_TRUE(layoutBox(hTr, CQorMatrix3d(), elo, ehi));
+    EXPECT_NEAR(hi.x, ehi.x, 1e-12);
+    EXPECT_GT(hi.x, 9.0);
 }
 
-TEST_F(GdxText, NullStringsChangeNothingUnmatchedPathsStillSucceed) {
+TEST_F(GdxTextItem, NullStringsChangeNothingUnmatchedPathsStillSucceed) {
     CQorGDX gdx = plainDoc();
     gdx.imageTxt(path({1}), 0, L"a", indexed(1), CQorMatrix3d(), L"CC", CQorPoint3d(),
                  CQorPoint3d());
@@ -320,11 +360,9 @@ TEST_F(GdxText, NullStringsChangeNothingUnmatchedPathsStillSucceed) {
     EXPECT_EQ(gdx.txtPointGet(5), CQorPoint3d());
 }
 
-TEST_F(GdxText, WithoutGlyphSourceTextItemsHaveNoRegions) {
-    QOR::gdxGlyphSourceSet(nullptr);
-    EXPECT_EQ(QOR::gdxGlyphSourceGet(), nullptr);
+TEST_F(GdxTextItem, CharactersOutsideTheFontGiveAnItemWithoutRegions) {
     CQorGDX gdx = plainDoc();
-    gdx.imageTxt(path({1}), 0, L"aa", indexed(1), CQorMatrix3d(), L"CC", CQorPoint3d(),
+    gdx.imageTxt(path({1}), 0, L"\u4e2d\u6587", indexed(1), CQorMatrix3d(), L"CC", CQorPoint3d(),
                  CQorPoint3d());
     ASSERT_EQ(gdx.lenGet(), 1);
     Regions regions;

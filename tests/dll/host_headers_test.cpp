@@ -22,3 +22,39 @@ TEST(HostHeaders, EveryPublicHeaderCompilesForAHostAndCallsReachTheDll) {
     ASSERT_NE(dll, nullptr);
     EXPECT_NE(GetProcAddress(dll, "_Z9qorAppPtrv"), nullptr);
 }
+
+namespace {
+// A host's own application object, with one layer in its data library.
+class CHostData : public QOR::CHostServices {
+public:
+    bool layerGet(const wchar_t* name, QOR::CLayerProp& out) override {
+        if (CQorString(name) != L"HOST_LAYER")
+            return false;
+        out.color.setColorIndex(3);
+        return true;
+    }
+};
+class CHostApp : public CQorApp {
+public:
+    unsigned long viewBkColorGet() override { return 0x00112233ul; }
+    QOR::CHostServices* hostServices() override { return &m_data; }
+
+private:
+    CHostData m_data;
+};
+} // namespace
+
+TEST(HostHeaders, AHostsApplicationObjectReplacesTheDefaultHostInTheDll) {
+    CHostApp app;
+    CQorApp* before = qorAppSet(&app);
+    EXPECT_EQ(before, nullptr); // the DLL wired its default host, which no host installed
+    EXPECT_EQ(qorAppPtr()->viewBkColorGet(), 0x00112233ul);
+    QOR::CLayerProp prop;
+    ASSERT_TRUE(CQorLayerMgr().physLayerPropGet(L"HOST_LAYER", prop));
+    EXPECT_EQ(prop.color.colorIndex(), 3);
+    CQorArrayTempl<CQorArrayTempl<double>> lines;
+    EXPECT_FALSE(qorAppPtr()->hatchPatternGet(L"ANSI31", lines)); // not the default's
+    qorAppSet(nullptr);
+    // The DLL's default host again: it knows its built-in patterns.
+    EXPECT_TRUE(qorAppPtr()->hatchPatternGet(L"ANSI31", lines));
+}

@@ -1,6 +1,6 @@
 // COleDispatchDriver against a small automation object of the test's own: argument
 // order, property put, result conversion, reference counting and soft failure.
-#include "foundation/qor_string.h"
+#include "foundation/base/qor_string.h"
 #include "framework/ole_dispatch_driver.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // Fuzz target of the .pat reader: any bytes read without a crash, and every line
 // family kept has at least five numbers.
-#include "foundation/host/hatch_pattern_table.h"
+#include "host/hatch_pattern_table.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // Fuzz target of qorAtoF: the bytes are taken as UTF-8 text (invalid bytes as
 // single characters) and read as a length. The result must be finite; a text that
 // qorRtoS writes for it must read back to a number that writes the same text.
-#include "foundation/host/text_file.h"
-#include "foundation/length_text.h"
+#include "foundation/records/length_text.h"
+#include "host/text_file.h"
 
 #include <cmath>
 #include <cstdint>

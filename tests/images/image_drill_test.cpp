@@ -2,9 +2,9 @@
 
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
-#include "foundation/data_text_format.h"
+#include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
-#include "foundation/layer_mgr.h"
+#include "foundation/records/layer_mgr.h"
 
 #include <gtest/gtest.h>
 

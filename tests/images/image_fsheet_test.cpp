@@ -1,9 +1,10 @@
 #include "images/image_fsheet.h"
 
 #include "displaylist/display_item.h"
-#include "foundation/fsheet.h"
-#include "foundation/host/layer_store.h"
-#include "foundation/layer_mgr.h"
+#include "foundation/application/fsheet.h"
+#include "foundation/records/layer_mgr.h"
+#include "host/layer_store.h"
+#include "host/sheet_catalog.h"
 #include "image_test_data.h"
 
 #include <gtest/gtest.h>

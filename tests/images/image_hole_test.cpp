@@ -2,9 +2,9 @@
 
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
-#include "foundation/data_text_format.h"
+#include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
-#include "foundation/hatch_prop.h"
+#include "foundation/records/hatch_prop.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
-#include "foundation/data_text_format.h"
+#include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
-#include "foundation/qor_geom_fcn.h"
+#include "foundation/geometry/qor_geom_fcn.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "displaylist/gdx.h"
-#include "foundation/data_text_format.h"
+#include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
 
 #include <gtest/gtest.h>

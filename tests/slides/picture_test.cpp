@@ -1,7 +1,7 @@
 // QOR::CPicture as a child window under Wine: pictures loaded from real files by
 // the platform's picture service, painted, zoomed and panned by real messages, and
 // copied to the clipboard.
-#include "slides/picture.h"
+#include "slides/win/picture.h"
 
 #include "win_test_util.h"
 

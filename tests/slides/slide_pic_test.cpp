@@ -1,8 +1,8 @@
 // QOR::CSlidePic as a child window under Wine: real paints read back as pixels, the
 // metafile of CreateEnhMetaFileW and the clipboard read back as records.
-#include "slides/slide_pic.h"
+#include "slides/win/slide_pic.h"
 
-#include "foundation/color_palette.h"
+#include "foundation/records/color_palette.h"
 #include "slide_test_util.h"
 #include "slides/slide_decoder.h"
 #include "win_test_util.h"

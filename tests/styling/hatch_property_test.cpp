@@ -2,7 +2,7 @@
 // the public pattern files under tests/data/hatch.
 #include "styling/hatch.h"
 
-#include "foundation/host/default_app.h"
+#include "host/default_app.h"
 #include "styling_test_util.h"
 
 #include <gtest/gtest.h>

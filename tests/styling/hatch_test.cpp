@@ -382,7 +382,7 @@ TEST(Hatch, OpenContourIsNotOrientedButStillCrossed) {
     open.append(CQorVertex(CQorPoint3d(0, 0, 0), CQorPoint3d(10, 0, 0)));
     open.append(CQorVertex(CQorPoint3d(10, 0, 0), CQorPoint3d(10, 10, 0)));
     list.append(open);
-    QOR::vllOrient(list, CQorVector3d::kZAxis);
+    QOR::g_vll_orient(list, CQorVector3d::kZAxis);
     EXPECT_TRUE(QOR::g_vl_orient(list[0], CQorVector3d::kZAxis));
     EXPECT_EQ(list[1][0].m_start.x, 0.0) << "the open contour keeps its direction";
 }

@@ -1,6 +1,6 @@
 #include "styling/line_pattern.h"
 
-#include "foundation/units.h"
+#include "foundation/records/units.h"
 #include "styling/dot_length.h"
 
 #include "styling_test_util.h"

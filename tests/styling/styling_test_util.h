@@ -1,8 +1,8 @@
 // Shapes and a pattern host for the styling tests.
 #pragma once
 
+#include "foundation/application/qor_app.h"
 #include "foundation/geometry.h"
-#include "foundation/qor_app.h"
 
 #include <initializer_list>
 #include <string>

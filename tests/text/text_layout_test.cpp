@@ -1,12 +1,13 @@
-#include "text/text_layout.h"
+#include "host/text_function.h"
 
 #include "displaylist/gdx.h"
-#include "displaylist/gdx_text.h"
 #include "foundation/application.h"
+#include "foundation/data/resbuf_value.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
-#include "foundation/resbuf_value.h"
 #include "text/glyph_table.h"
+#include "text/text_layout.h"
+#include "text/text_to_regl.h"
 
 #include <gtest/gtest.h>
 
@@ -85,10 +86,6 @@ double inkWidth(wchar_t c) {
 }
 
 } // namespace
-
-TEST(TextLayout, FontIsTheGlyphSourceOfTextItems) {
-    EXPECT_EQ(QOR::gdxGlyphSourceGet(), &get_ascii_from_map);
-}
 
 TEST(TextLayout, EmptyTextGivesNoRegions) {
     EXPECT_EQ(textItem(L"", L"CC").len(), 0);

@@ -1,13 +1,13 @@
 // The documents of the main job drawn twice in one process, by the native metafile
 // surface and through GDI: the two metafiles hold the same records with the same
 // payloads, clip regions included.
-#include "displaylist/emf_surface.h"
-#include "displaylist/gdi_surface.h"
-#include "displaylist/item_painter.h"
-#include "displaylist/picture_loader.h"
-#include "foundation/data_item.h"
-#include "foundation/data_text_format.h"
-#include "tests/displaylist/emf_records.h"
+#include "drawing/emf_surface.h"
+#include "drawing/item_painter.h"
+#include "drawing/picture_loader.h"
+#include "drawing/win/gdi_surface.h"
+#include "foundation/data/data_item.h"
+#include "foundation/data/data_text_format.h"
+#include "tests/drawing/emf_records.h"
 #include "tools/demo_documents.h"
 #include "views/bitmap.h"
 

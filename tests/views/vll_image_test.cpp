@@ -2,7 +2,7 @@
 // array, the base point and picking of arrays.
 #include "views/vll_image.h"
 
-#include "foundation/qor_app.h"
+#include "foundation/application/qor_app.h"
 #include "tests/displaylist/gdx_test_util.h"
 #include "tests/views/view_test_util.h"
 

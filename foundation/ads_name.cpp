@@ -1,5 +1,0 @@
-#include "foundation/ads_name.h"
-
-namespace QOR {
-CAdsName::~CAdsName() = default;
-} // namespace QOR

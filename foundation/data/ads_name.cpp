@@ -1,0 +1,5 @@
+#include "foundation/data/ads_name.h"
+
+namespace QOR {
+CAdsName::~CAdsName() = default;
+} // namespace QOR

@@ -1,3 +1,0 @@
-#include "foundation/qor_vertex_array_ex.h"
-
-CQorVertexArrayEx::~CQorVertexArrayEx() = default;

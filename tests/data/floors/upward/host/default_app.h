@@ -1,0 +1,2 @@
+// A host file.
+#include "foundation/application/qor_app.h"

@@ -1,0 +1,2 @@
+// Portable code with a Windows header.
+#include <windows.h>
