@@ -2,6 +2,7 @@
 
 #include "displaylist/view_mtx.h"
 #include "drawing/item_painter.h"
+#include "drawing/picture_loader.h"
 #include "drawing/win/gdi_surface.h"
 #include "framework/bitmap.h"
 #include "framework/module_state.h"
@@ -89,6 +90,8 @@ void CQorDplistImage::OnPaint() {
         std::unique_ptr<QOR::CQorDrawSurface> surface = surfaceMake(memory);
         if (surface) {
             QOR::CQorItemPainter painter(*surface, QOR::CQorPaintPolicy::screen());
+            // Pictures load as in the metafile: through the loader the library installed.
+            painter.pictureLoaderSet(QOR::pictureLoaderDefault());
             painter.paintScreen(*dpList, height, width);
         }
     }
