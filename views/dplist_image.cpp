@@ -103,7 +103,8 @@ void CQorDplistImage::OnPaint() {
 int CQorDplistImage::OnMouseWheel(unsigned int flags, short delta, CPoint point) {
     if (flags & MK_MBUTTON)
         return 0;
-    // A wheel message without movement has no factor; it changes nothing.
+    // Guard: a wheel message without movement has no factor (the scale would divide
+    // by zero); it changes nothing and keeps the zoom finite.
     if (!dpList || delta == 0)
         return 1;
     ScreenToClient(&point);
