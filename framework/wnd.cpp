@@ -24,6 +24,8 @@ struct CurrentMessage {
 };
 thread_local CurrentMessage t_current;
 thread_local CWnd* t_creating = nullptr;
+// How many messages the framework's window procedure is dispatching, nested.
+thread_local int t_dispatchDepth = 0;
 thread_local HHOOK t_createHook = nullptr;
 
 const wchar_t kDefaultClass[] = L"QorWnd";
@@ -183,6 +185,10 @@ CWnd* CWnd::FromHandle(HWND hWnd) {
 
 void CWnd::DeleteTempMap() {
     handleMap().clearTemporaries();
+}
+
+int CWnd::TempMapSize() {
+    return handleMap().temporaryCount();
 }
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -383,6 +389,7 @@ LRESULT CWndProcAccess::dispatch(HWND hWnd, UINT message, WPARAM wParam, LPARAM 
         return ::DefWindowProcW(hWnd, message, wParam, lParam);
     CurrentMessage outer = t_current;
     t_current = CurrentMessage{message, wParam, lParam};
+    ++t_dispatchDepth;
     LRESULT result = 0;
     try {
         result = wnd->WindowProc(message, wParam, lParam);
@@ -395,5 +402,8 @@ LRESULT CWndProcAccess::dispatch(HWND hWnd, UINT message, WPARAM wParam, LPARAM 
         wnd->unbind();
         wnd->PostNcDestroy();
     }
+    // The outermost message is done: no handler holds a temporary any more.
+    if (--t_dispatchDepth == 0)
+        CWnd::DeleteTempMap();
     return result;
 }

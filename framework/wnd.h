@@ -27,9 +27,13 @@ struct CWndProcAccess;
 // called. No exception ever leaves the window procedure.
 //
 // Handle map. FromHandle gives the bound object of a window, else a temporary
-// CWnd that stays valid until DeleteTempMap and is the same object for the same
-// handle. Operations that return windows (GetParent, GetDlgItem, GetFocus, ...) go
-// through it, so a bound window is recognised by its address.
+// CWnd that is the same object for the same handle until it is freed. Operations
+// that return windows (GetParent, GetDlgItem, GetFocus, ...) go through it, so a
+// bound window is recognised by its address. Temporaries are freed when the
+// outermost message the framework's window procedure dispatches returns (a
+// message sent from a handler is nested and frees nothing), and by DeleteTempMap:
+// a handler may keep one until it returns, code outside any message until it
+// next sends one to a bound window. Bound objects are never freed by the map.
 class QOR_API CWnd {
 public:
     CWnd() = default;
@@ -65,6 +69,8 @@ public:
     // The bound object of hWnd, or null.
     static CWnd* FromHandlePermanent(HWND hWnd);
     static void DeleteTempMap();
+    // The number of temporary wrappers alive (for tests of the map).
+    static int TempMapSize();
     // The class name Create uses for a null class name.
     static LPCWSTR DefaultClassName();
 

@@ -1,6 +1,7 @@
 #include "views/bitmap.h"
 
 #include "drawing/picture_loader.h"
+#include "drawing/win/gdi_handle.h"
 #include "drawing/win/gdi_surface.h"
 #include "foundation/application/app_file_name.h"
 #include "foundation/application/app_files.h"
@@ -53,66 +54,52 @@ HICON loadByNumber(int number, int width, int height) {
 }
 
 // The icon drawn on bkColor: result = bk AND mask, then XOR the colour image with
-// its transparent part blacked out by the inverted mask.
-HBITMAP flattenIcon(HICON icon, COLORREF bkColor) {
-    HDC display = CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr);
-    HDC mem = display ? CreateCompatibleDC(display) : nullptr;
-    if (!display || !mem) {
-        if (display)
-            DeleteDC(display);
-        DestroyIcon(icon);
+// its transparent part blacked out by the inverted mask. The icon is freed.
+HBITMAP flattenIcon(QOR::CQorIcon icon, COLORREF bkColor) {
+    QOR::CQorDc display(CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr));
+    QOR::CQorDc mem(display ? CreateCompatibleDC(display.get()) : nullptr);
+    if (!display || !mem)
         return nullptr;
-    }
-    HBITMAP result = nullptr;
     ICONINFO info = {};
-    if (GetIconInfo(icon, &info)) {
-        int w = 32, h = 32;
-        BITMAP bm = {};
-        if (info.hbmColor && GetObjectW(info.hbmColor, sizeof(bm), &bm)) {
-            w = bm.bmWidth;
-            h = bm.bmHeight;
-        } else if (info.hbmMask && GetObjectW(info.hbmMask, sizeof(bm), &bm)) {
-            // Mask and image stacked in one bitmap.
-            w = bm.bmWidth;
-            h = static_cast<int>(bm.bmHeight * 0.5);
-        }
-        result = CreateCompatibleBitmap(display, w, h);
-        HGDIOBJ oldResult = SelectObject(mem, result);
-        fillSolid(mem, w, h, bkColor);
-        HDC maskDc = CreateCompatibleDC(display);
-        HDC colorDc = CreateCompatibleDC(display);
-        HGDIOBJ oldMask = SelectObject(maskDc, info.hbmMask);
-        HGDIOBJ oldColor = SelectObject(colorDc, info.hbmColor);
-        BitBlt(mem, 0, 0, w, h, maskDc, 0, 0, kRopAnd);
-        BitBlt(maskDc, 0, 0, w, h, maskDc, 0, 0, kRopInvert);
-        BitBlt(colorDc, 0, 0, w, h, maskDc, 0, 0, kRopAnd);
-        BitBlt(mem, 0, 0, w, h, colorDc, 0, 0, kRopXor);
-        SelectObject(maskDc, oldMask);
-        SelectObject(colorDc, oldColor);
-        SelectObject(mem, oldResult);
-        DeleteDC(maskDc);
-        DeleteDC(colorDc);
-        if (info.hbmColor)
-            DeleteObject(info.hbmColor);
-        if (info.hbmMask)
-            DeleteObject(info.hbmMask);
+    if (!GetIconInfo(icon.get(), &info))
+        return nullptr;
+    // GetIconInfo makes both bitmaps for its caller.
+    QOR::CQorBitmap color(info.hbmColor);
+    QOR::CQorBitmap mask(info.hbmMask);
+    int w = 32, h = 32;
+    BITMAP bm = {};
+    if (color && GetObjectW(color.get(), sizeof(bm), &bm)) {
+        w = bm.bmWidth;
+        h = bm.bmHeight;
+    } else if (mask && GetObjectW(mask.get(), sizeof(bm), &bm)) {
+        // Mask and image stacked in one bitmap.
+        w = bm.bmWidth;
+        h = static_cast<int>(bm.bmHeight * 0.5);
     }
-    DestroyIcon(icon);
-    DeleteDC(mem);
-    DeleteDC(display);
-    return result;
+    QOR::CQorBitmap result(CreateCompatibleBitmap(display.get(), w, h));
+    {
+        QOR::CQorSelection intoResult(mem.get(), result.get());
+        fillSolid(mem.get(), w, h, bkColor);
+        QOR::CQorDc maskDc(CreateCompatibleDC(display.get()));
+        QOR::CQorDc colorDc(CreateCompatibleDC(display.get()));
+        QOR::CQorSelection intoMask(maskDc.get(), mask.get());
+        QOR::CQorSelection intoColor(colorDc.get(), color.get());
+        BitBlt(mem.get(), 0, 0, w, h, maskDc.get(), 0, 0, kRopAnd);
+        BitBlt(maskDc.get(), 0, 0, w, h, maskDc.get(), 0, 0, kRopInvert);
+        BitBlt(colorDc.get(), 0, 0, w, h, maskDc.get(), 0, 0, kRopAnd);
+        BitBlt(mem.get(), 0, 0, w, h, colorDc.get(), 0, 0, kRopXor);
+    } // every bitmap is out of its context before it is freed
+    return result.release();
 }
 
 // The loader of picture items for both painters: the bitmap as pixels.
 bool loadPicture(const CQorString& name, int number, int width, int height, bool transparent,
                  unsigned long back, QOR::DeviceBitmap& out) {
     bool t = transparent;
-    HBITMAP bitmap = qor_gdx_image_get_bitmap(name, number, width, height, t, back);
+    const QOR::CQorBitmap bitmap(qor_gdx_image_get_bitmap(name, number, width, height, t, back));
     if (!bitmap)
         return false;
-    const bool ok = QOR::deviceBitmapFromHandle(bitmap, out);
-    DeleteObject(bitmap);
-    return ok;
+    return QOR::deviceBitmapFromHandle(bitmap.get(), out);
 }
 
 } // namespace
@@ -140,7 +127,8 @@ HBITMAP qor_gdx_image_get_bitmap(const CQorString& name, int number, int width, 
     if (!isIcon)
         return static_cast<HBITMAP>(loaded);
     transparent = false;
-    return flattenIcon(static_cast<HICON>(loaded), static_cast<COLORREF>(bkColor & 0xFFFFFF));
+    return flattenIcon(QOR::CQorIcon(static_cast<HICON>(loaded)),
+                       static_cast<COLORREF>(bkColor & 0xFFFFFF));
 }
 
 unsigned long qor_gdx_picture_bkcolor_get(CDC* dc, BITMAP* bm) {
@@ -187,26 +175,23 @@ unsigned long bitmapBkColorVote(HDC dc, int width, int height) {
 void bitmapDrawTransparent(HDC dc, int x, int y, HBITMAP bitmap) {
     const COLORREF oldBk = SetBkColor(dc, RGB(255, 255, 255));
     const COLORREF oldText = SetTextColor(dc, RGB(0, 0, 0));
-    HDC image = CreateCompatibleDC(dc);
-    HDC mask = CreateCompatibleDC(dc);
-    HGDIOBJ oldImage = SelectObject(image, bitmap);
-    BITMAP bm = {};
-    GetObjectW(bitmap, sizeof(bm), &bm);
-    const int w = bm.bmWidth, h = bm.bmHeight;
-    const unsigned long bk = bitmapBkColorVote(image, w, h);
-    HBITMAP maskBitmap = CreateBitmap(w, h, 1, 1, nullptr);
-    HGDIOBJ oldMask = SelectObject(mask, maskBitmap);
-    // Copied to one bit per pixel, the pixels of the background colour give 1.
-    SetBkColor(image, static_cast<COLORREF>(bk));
-    BitBlt(mask, 0, 0, w, h, image, 0, 0, kRopCopy);
-    BitBlt(dc, x, y, w, h, image, 0, 0, kRopXor);
-    BitBlt(dc, x, y, w, h, mask, 0, 0, kRopAnd);
-    BitBlt(dc, x, y, w, h, image, 0, 0, kRopXor);
-    SelectObject(mask, oldMask);
-    SelectObject(image, oldImage);
-    DeleteObject(maskBitmap);
-    DeleteDC(mask);
-    DeleteDC(image);
+    {
+        const QOR::CQorDc image(CreateCompatibleDC(dc));
+        const QOR::CQorDc mask(CreateCompatibleDC(dc));
+        const QOR::CQorSelection intoImage(image.get(), bitmap);
+        BITMAP bm = {};
+        GetObjectW(bitmap, sizeof(bm), &bm);
+        const int w = bm.bmWidth, h = bm.bmHeight;
+        const unsigned long bk = bitmapBkColorVote(image.get(), w, h);
+        const QOR::CQorBitmap maskBitmap(CreateBitmap(w, h, 1, 1, nullptr));
+        const QOR::CQorSelection intoMask(mask.get(), maskBitmap.get());
+        // Copied to one bit per pixel, the pixels of the background colour give 1.
+        SetBkColor(image.get(), static_cast<COLORREF>(bk));
+        BitBlt(mask.get(), 0, 0, w, h, image.get(), 0, 0, kRopCopy);
+        BitBlt(dc, x, y, w, h, image.get(), 0, 0, kRopXor);
+        BitBlt(dc, x, y, w, h, mask.get(), 0, 0, kRopAnd);
+        BitBlt(dc, x, y, w, h, image.get(), 0, 0, kRopXor);
+    } // the selections go first, then the mask bitmap, then the contexts
     SetBkColor(dc, oldBk);
     SetTextColor(dc, oldText);
 }

@@ -2,6 +2,7 @@
 
 #include "displaylist/view_mtx.h"
 #include "drawing/item_painter.h"
+#include "drawing/picture_loader.h"
 #include "drawing/win/gdi_surface.h"
 #include "framework/bitmap.h"
 #include "framework/module_state.h"
@@ -89,6 +90,8 @@ void CQorDplistImage::OnPaint() {
         std::unique_ptr<QOR::CQorDrawSurface> surface = surfaceMake(memory);
         if (surface) {
             QOR::CQorItemPainter painter(*surface, QOR::CQorPaintPolicy::screen());
+            // Pictures load as in the metafile: through the loader the library installed.
+            painter.pictureLoaderSet(QOR::pictureLoaderDefault());
             painter.paintScreen(*dpList, height, width);
         }
     }
@@ -100,7 +103,8 @@ void CQorDplistImage::OnPaint() {
 int CQorDplistImage::OnMouseWheel(unsigned int flags, short delta, CPoint point) {
     if (flags & MK_MBUTTON)
         return 0;
-    // A wheel message without movement has no factor; it changes nothing.
+    // Guard: a wheel message without movement has no factor (the scale would divide
+    // by zero); it changes nothing and keeps the zoom finite.
     if (!dpList || delta == 0)
         return 1;
     ScreenToClient(&point);

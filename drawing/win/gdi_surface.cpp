@@ -41,24 +41,23 @@ CQorGdiSurface::~CQorGdiSurface() {
 
 void CQorGdiSurface::penSelect(int width, unsigned long color) {
     penFree();
-    m_pen = CreatePen(PS_SOLID, width, colorRef(color));
+    m_pen.reset(CreatePen(PS_SOLID, width, colorRef(color)));
     if (m_pen)
-        SelectObject(m_dc, m_pen);
+        SelectObject(m_dc.get(), m_pen.get());
 }
 
 void CQorGdiSurface::penFree() {
     if (!m_pen)
         return;
-    SelectObject(m_dc, GetStockObject(BLACK_PEN));
-    DeleteObject(m_pen);
-    m_pen = nullptr;
+    SelectObject(m_dc.get(), GetStockObject(BLACK_PEN));
+    m_pen.reset();
 }
 
 void CQorGdiSurface::brushSet(HBRUSH brush) {
     brushFree();
-    m_brush = brush;
+    m_brush.reset(brush);
     if (m_brush)
-        SelectObject(m_dc, m_brush);
+        SelectObject(m_dc.get(), m_brush.get());
 }
 
 void CQorGdiSurface::brushSolid(unsigned long color) {
@@ -74,75 +73,70 @@ void CQorGdiSurface::brushHollow() {
 void CQorGdiSurface::brushFree() {
     if (!m_brush)
         return;
-    SelectObject(m_dc, GetStockObject(WHITE_BRUSH));
-    DeleteObject(m_brush);
-    m_brush = nullptr;
+    SelectObject(m_dc.get(), GetStockObject(WHITE_BRUSH));
+    m_brush.reset();
 }
 
 void CQorGdiSurface::moveTo(int x, int y) {
-    MoveToEx(m_dc, x, y, nullptr);
+    MoveToEx(m_dc.get(), x, y, nullptr);
 }
 
 void CQorGdiSurface::lineTo(int x, int y) {
-    LineTo(m_dc, x, y);
+    LineTo(m_dc.get(), x, y);
 }
 
 void CQorGdiSurface::rectangle(int x1, int y1, int x2, int y2) {
-    Rectangle(m_dc, x1, y1, x2, y2);
+    Rectangle(m_dc.get(), x1, y1, x2, y2);
 }
 
 void CQorGdiSurface::ellipse(int x1, int y1, int x2, int y2) {
-    Ellipse(m_dc, x1, y1, x2, y2);
+    Ellipse(m_dc.get(), x1, y1, x2, y2);
 }
 
 void CQorGdiSurface::polyFillModeSet(int mode) {
-    SetPolyFillMode(m_dc, mode);
+    SetPolyFillMode(m_dc.get(), mode);
 }
 
 void CQorGdiSurface::polygon(const std::vector<DevicePoint>& pts) {
     if (pts.empty())
         return;
     const std::vector<POINT> p = toPoints(pts);
-    Polygon(m_dc, p.data(), static_cast<int>(p.size()));
+    Polygon(m_dc.get(), p.data(), static_cast<int>(p.size()));
 }
 
 void CQorGdiSurface::bkColorSet(unsigned long color) {
-    SetBkColor(m_dc, colorRef(color));
+    SetBkColor(m_dc.get(), colorRef(color));
 }
 
 unsigned long CQorGdiSurface::bkColorGet() const {
-    return ::GetBkColor(m_dc);
+    return ::GetBkColor(m_dc.get());
 }
 
 void CQorGdiSurface::setPixel(int x, int y, unsigned long color) {
-    SetPixelV(m_dc, x, y, colorRef(color));
+    SetPixelV(m_dc.get(), x, y, colorRef(color));
 }
 
 void CQorGdiSurface::fillSolidRect(int x1, int y1, int x2, int y2, unsigned long color) {
     brushSolid(color);
     const int l = std::min(x1, x2), t = std::min(y1, y2);
-    PatBlt(m_dc, l, t, std::abs(x2 - x1), std::abs(y2 - y1), PATCOPY);
+    PatBlt(m_dc.get(), l, t, std::abs(x2 - x1), std::abs(y2 - y1), PATCOPY);
     brushFree();
 }
 
 void CQorGdiSurface::clipRect(int x1, int y1, int x2, int y2) {
-    HRGN rgn =
-        CreateRectRgn(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2));
-    if (!rgn)
-        return;
-    SelectClipRgn(m_dc, rgn);
-    DeleteObject(rgn);
+    const CQorRgn rgn(
+        CreateRectRgn(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)));
+    if (rgn)
+        SelectClipRgn(m_dc.get(), rgn.get()); // the context keeps a copy
 }
 
 void CQorGdiSurface::clipSubtractPolygon(const std::vector<DevicePoint>& pts) {
     if (pts.size() < 3)
         return;
     const std::vector<POINT> p = toPoints(pts);
-    HRGN rgn = CreatePolygonRgn(p.data(), static_cast<int>(p.size()), ALTERNATE);
-    if (!rgn)
-        return;
-    ExtSelectClipRgn(m_dc, rgn, RGN_DIFF);
-    DeleteObject(rgn);
+    const CQorRgn rgn(CreatePolygonRgn(p.data(), static_cast<int>(p.size()), ALTERNATE));
+    if (rgn)
+        ExtSelectClipRgn(m_dc.get(), rgn.get(), RGN_DIFF);
 }
 
 void CQorGdiSurface::bitmapCopy(int x, int y, int width, int height, const DeviceBitmap& bmp) {
@@ -151,7 +145,7 @@ void CQorGdiSurface::bitmapCopy(int x, int y, int width, int height, const Devic
         return;
     BITMAPINFO info = topDown32(bmp.width, bmp.height);
     void* bits = nullptr;
-    HBITMAP dib = CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const CQorBitmap dib(CreateDIBSection(m_dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!dib)
         return;
     auto* out = static_cast<std::uint32_t*>(bits);
@@ -161,14 +155,11 @@ void CQorGdiSurface::bitmapCopy(int x, int y, int width, int height, const Devic
         out[k] = ((p & 0xFF) << 16) | (p & 0xFF00) | ((p >> 16) & 0xFF);
     }
     GdiFlush();
-    HDC mem = CreateCompatibleDC(m_dc);
+    const CQorDc mem(CreateCompatibleDC(m_dc.get()));
     if (mem) {
-        HGDIOBJ old = SelectObject(mem, dib);
-        BitBlt(m_dc, x, y, width, height, mem, 0, 0, SRCCOPY);
-        SelectObject(mem, old);
-        DeleteDC(mem);
+        const CQorSelection intoMem(mem.get(), dib.get());
+        BitBlt(m_dc.get(), x, y, width, height, mem.get(), 0, 0, SRCCOPY);
     }
-    DeleteObject(dib);
 }
 
 bool deviceBitmapFromHandle(HBITMAP bitmap, DeviceBitmap& out) {
@@ -179,10 +170,12 @@ bool deviceBitmapFromHandle(HBITMAP bitmap, DeviceBitmap& out) {
     BITMAPINFO info = topDown32(bm.bmWidth, bm.bmHeight);
     std::vector<std::uint32_t> rows(static_cast<size_t>(bm.bmWidth) *
                                     static_cast<size_t>(bm.bmHeight));
-    HDC screen = GetDC(nullptr);
-    const int got = GetDIBits(screen, bitmap, 0, static_cast<UINT>(bm.bmHeight), rows.data(), &info,
-                              DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
+    int got = 0;
+    {
+        const CQorWindowDc screen(nullptr);
+        got = GetDIBits(screen.get(), bitmap, 0, static_cast<UINT>(bm.bmHeight), rows.data(), &info,
+                        DIB_RGB_COLORS);
+    }
     if (got != bm.bmHeight)
         return false;
     out.width = bm.bmWidth;

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "drawing/draw_surface.h"
+#include "drawing/win/gdi_handle.h"
 
 namespace QOR {
 
@@ -19,7 +20,7 @@ public:
     CQorGdiSurface(const CQorGdiSurface&) = delete;
     CQorGdiSurface& operator=(const CQorGdiSurface&) = delete;
 
-    HDC dc() const { return m_dc; }
+    HDC dc() const { return m_dc.get(); }
 
     void penSelect(int width, unsigned long color) override;
     void penFree() override;
@@ -48,9 +49,9 @@ public:
 private:
     void brushSet(HBRUSH brush);
 
-    HDC m_dc;
-    HPEN m_pen = nullptr;
-    HBRUSH m_brush = nullptr;
+    CQorDcHandle m_dc; // borrowed: never deleted here
+    CQorPen m_pen;
+    CQorBrush m_brush;
 };
 
 // The pixels of a bitmap as a DeviceBitmap (rows from the top, 0x00BBGGRR), read

@@ -2,6 +2,7 @@
 
 #include "drawing/item_painter.h"
 #include "drawing/picture_loader.h"
+#include "drawing/win/gdi_handle.h"
 #include "drawing/win/gdi_surface.h"
 
 // GDI records the metafile: no reference device (the screen stands in) and no
@@ -18,20 +19,15 @@ void refresh(CQorGDX* gdx, const wchar_t* file, int height, int width) {
         painter.pictureLoaderSet(QOR::pictureLoaderDefault());
         painter.paint(*gdx, height, width);
     } // frees the last pen and brush before the recording ends
-    HENHMETAFILE emf = dc ? CloseEnhMetaFile(dc) : nullptr;
+    QOR::CQorEnhMetaFile emf(dc ? CloseEnhMetaFile(dc) : nullptr);
     if (!emf)
         return;
-    if (file) {
-        // The file is complete; the handle only holds memory.
-        DeleteEnhMetaFile(emf);
-        return;
-    }
-    if (OpenClipboard(nullptr)) {
+    // With a file the metafile is complete on disk; the handle only holds memory
+    // and goes. On the clipboard it becomes the clipboard's.
+    if (!file && OpenClipboard(nullptr)) {
         EmptyClipboard();
-        if (!SetClipboardData(CF_ENHMETAFILE, emf))
-            DeleteEnhMetaFile(emf);
+        if (SetClipboardData(CF_ENHMETAFILE, emf.get()))
+            emf.release();
         CloseClipboard();
-    } else {
-        DeleteEnhMetaFile(emf);
     }
 }

@@ -337,3 +337,121 @@ TEST_F(WndTest, SubclassOfAMissingItemFails) {
     EXPECT_FALSE(w.SubclassDlgItem(1, nullptr));
     EXPECT_FALSE(w.SubclassWindow(top.m_hWnd)); // bound to another object already
 }
+
+// --- Temporary wrappers and the depth of dispatch.
+
+namespace {
+
+constexpr UINT kGrabMsg = WM_APP + 20;  // takes a temporary of control 77
+constexpr UINT kOuterMsg = WM_APP + 21; // takes one of 77, then sends kInnerMsg
+constexpr UINT kInnerMsg = WM_APP + 22; // takes one of control 78
+constexpr UINT kParentMsg = WM_APP + 23;
+
+// Takes wrappers inside its handlers and notes what the map holds meanwhile.
+class CTempProbe : public CWnd {
+public:
+    CWnd* grabbed = nullptr;
+    CWnd* parentSeen = nullptr;
+    int countInside = -1;
+    int countAfterNested = -1;
+    bool outerStillSame = false;
+    HWND outerHandleAfterNested = nullptr;
+
+    LRESULT OnGrab(WPARAM, LPARAM) {
+        grabbed = GetDlgItem(77);
+        countInside = CWnd::TempMapSize();
+        return 0;
+    }
+    LRESULT OnOuter(WPARAM, LPARAM) {
+        CWnd* outer = GetDlgItem(77);
+        SendMessage(kInnerMsg);
+        countAfterNested = CWnd::TempMapSize();
+        outerStillSame = GetDlgItem(77) == outer;
+        outerHandleAfterNested = outer->m_hWnd;
+        return 0;
+    }
+    LRESULT OnInner(WPARAM, LPARAM) {
+        GetDlgItem(78);
+        return 0;
+    }
+    LRESULT OnParent(WPARAM, LPARAM) {
+        parentSeen = GetParent();
+        return 0;
+    }
+
+protected:
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CTempProbe, CWnd)
+ON_MESSAGE(kGrabMsg, &CTempProbe::OnGrab)
+ON_MESSAGE(kOuterMsg, &CTempProbe::OnOuter)
+ON_MESSAGE(kInnerMsg, &CTempProbe::OnInner)
+ON_MESSAGE(kParentMsg, &CTempProbe::OnParent)
+END_MESSAGE_MAP()
+
+// A probe inside the test's top window with two controls nobody wraps, 77 and 78.
+class Wnd : public WndTest {
+protected:
+    void SetUp() override {
+        WndTest::SetUp();
+        ASSERT_TRUE(probe.Create(nullptr, L"probe", WS_CHILD, CRect(0, 0, 50, 50), &top, kProbeId));
+        for (int id : {77, 78})
+            ASSERT_NE(CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 5, 5, probe.m_hWnd,
+                                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
+                                      nullptr),
+                      nullptr);
+        CWnd::DeleteTempMap();
+    }
+    void TearDown() override {
+        probe.DestroyWindow();
+        WndTest::TearDown();
+    }
+    static constexpr UINT kProbeId = 99;
+    CTempProbe probe;
+};
+
+} // namespace
+
+TEST_F(Wnd, TemporaryWrappersAreFreedWhenTheOutermostDispatchReturns) {
+    probe.SendMessage(kGrabMsg);
+    ASSERT_NE(probe.grabbed, nullptr);
+    EXPECT_EQ(probe.countInside, 1);
+    EXPECT_EQ(CWnd::TempMapSize(), 0);
+    // The handle itself lives on; only its wrapper went.
+    EXPECT_TRUE(IsWindow(GetDlgItem(probe.m_hWnd, 77)));
+}
+
+TEST_F(Wnd, TemporaryWrappersAreFreedAfterAQueuedMessageIsDispatched) {
+    probe.PostMessage(kGrabMsg);
+    pump();
+    EXPECT_EQ(probe.countInside, 1);
+    EXPECT_EQ(CWnd::TempMapSize(), 0);
+}
+
+TEST_F(Wnd, PermanentWrappersStayWhenTheOutermostDispatchReturns) {
+    probe.SendMessage(kParentMsg);
+    EXPECT_EQ(probe.parentSeen, &top);
+    EXPECT_EQ(CWnd::TempMapSize(), 0);
+    EXPECT_EQ(CWnd::FromHandlePermanent(top.m_hWnd), &top);
+    EXPECT_EQ(CWnd::FromHandlePermanent(probe.m_hWnd), &probe);
+    EXPECT_TRUE(IsWindow(top.m_hWnd));
+    EXPECT_EQ(top.GetDlgItem(static_cast<int>(kProbeId)), &probe);
+}
+
+TEST_F(Wnd, ANestedDispatchDoesNotFreeTheOuterHandlersTemporaries) {
+    probe.SendMessage(kOuterMsg);
+    EXPECT_EQ(probe.countAfterNested, 2); // 77 of the outer handler, 78 of the inner one
+    EXPECT_TRUE(probe.outerStillSame);
+    EXPECT_EQ(probe.outerHandleAfterNested, GetDlgItem(probe.m_hWnd, 77));
+    EXPECT_EQ(CWnd::TempMapSize(), 0);
+}
+
+TEST_F(Wnd, ATemporaryTakenOutsideAnyMessageLivesUntilTheNextDispatchReturns) {
+    CWnd* outside = probe.GetDlgItem(77);
+    ASSERT_NE(outside, nullptr);
+    EXPECT_EQ(CWnd::TempMapSize(), 1);
+    EXPECT_EQ(probe.GetDlgItem(77), outside);
+    probe.SendMessage(kParentMsg);
+    EXPECT_EQ(CWnd::TempMapSize(), 0);
+}

@@ -3,11 +3,15 @@
 #include "views/dplist_image.h"
 
 #include "drawing/item_painter.h"
+#include "drawing/refresh.h"
 #include "drawing/win/gdi_surface.h"
 #include "tests/drawing/painter_test_util.h"
 #include "tests/views/view_test_util.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
 
 namespace {
 
@@ -178,4 +182,103 @@ TEST_F(DplistImagePaintTest, TheWindowShowsWhatThePainterDrawsOnADibSection) {
         for (int x = 0; x < kSide; ++x)
             drawn += shot.ref(x, y) != RGB(30, 40, 50) ? 1 : 0;
     EXPECT_GT(drawn, 1000);
+}
+
+namespace {
+
+void putLe(std::string& s, std::uint32_t v, int n) {
+    for (int k = 0; k < n; ++k)
+        s.push_back(static_cast<char>((v >> (8 * k)) & 0xFF));
+}
+
+// A 24-bit bitmap file of w by h: red in the left half, blue in the right.
+std::string halvesBmp(int w, int h) {
+    const int stride = (w * 3 + 3) & ~3;
+    std::string out = "BM";
+    putLe(out, static_cast<std::uint32_t>(54 + stride * h), 4);
+    putLe(out, 0, 4);
+    putLe(out, 54, 4);
+    putLe(out, 40, 4);
+    putLe(out, static_cast<std::uint32_t>(w), 4);
+    putLe(out, static_cast<std::uint32_t>(h), 4);
+    putLe(out, 1, 2);
+    putLe(out, 24, 2);
+    for (int k = 0; k < 6; ++k)
+        putLe(out, 0, 4);
+    for (int y = 0; y < h; ++y) {
+        std::string row;
+        for (int x = 0; x < w; ++x)
+            putLe(row, x < w / 2 ? 0xFF0000u : 0x0000FFu, 3); // 0x00RRGGBB as B, G, R
+        row.resize(static_cast<size_t>(stride), '\0');
+        out += row;
+    }
+    return out;
+}
+
+std::wstring tempPath(const wchar_t* name) {
+    wchar_t dir[MAX_PATH] = {};
+    GetTempPathW(MAX_PATH, dir);
+    return std::wstring(dir) + name;
+}
+
+bool writeFile(const std::wstring& path, const std::string& bytes) {
+    HANDLE f = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (f == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    WriteFile(f, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    CloseHandle(f);
+    return written == bytes.size();
+}
+
+// The metafile of refresh played into a white DIB at the device coordinates it
+// was recorded at (its bounds mapped onto themselves).
+bool playRefresh(CQorGDX& gdx, TestDib& out) {
+    const std::wstring file = tempPath(L"qor_dplist_picture.emf");
+    DeleteFileW(file.c_str());
+    refresh(&gdx, file.c_str(), out.height, out.width);
+    HENHMETAFILE emf = GetEnhMetaFileW(file.c_str());
+    DeleteFileW(file.c_str());
+    if (!emf)
+        return false;
+    out.fill(kWhite);
+    ENHMETAHEADER h = {};
+    GetEnhMetaFileHeader(emf, sizeof(h), &h);
+    RECT target = {h.rclBounds.left, h.rclBounds.top, h.rclBounds.right, h.rclBounds.bottom};
+    PlayEnhMetaFile(out.dc, emf, &target);
+    GdiFlush();
+    DeleteEnhMetaFile(emf);
+    return true;
+}
+
+} // namespace
+
+// Defect: the window's painter had no picture loader, so picture items showed in
+// the metafile of refresh but never on the screen.
+TEST_F(DplistImagePaintTest, PictureItemsAreDrawnOnScreenAsInTheMetafile) {
+    const std::wstring bmp = tempPath(L"qor_dplist_picture.bmp");
+    ASSERT_TRUE(writeFile(bmp, halvesBmp(20, 10)));
+    CQorGDX gdx = boxDoc(); // white
+    // Device corners (30, 40)-(50, 50): red over x 30..39, blue over x 40..49.
+    gdx.imagePicture(path({1}), 0, bmp.c_str(), 0, CQorPoint3d(30, 40, 0), CQorPoint3d(50, 50, 0));
+    show(gdx);
+    TestDib played(kSide, kSide);
+    ASSERT_TRUE(playRefresh(gdx, played));
+    DeleteFileW(bmp.c_str());
+
+    EXPECT_EQ(shot.ref(31, 41), kRed);
+    EXPECT_EQ(shot.ref(38, 48), kRed);
+    EXPECT_EQ(shot.ref(41, 41), RGB(0, 0, 255));
+    EXPECT_EQ(shot.ref(48, 48), RGB(0, 0, 255));
+    EXPECT_EQ(shot.ref(25, 45), kWhite);
+    EXPECT_EQ(shot.ref(55, 45), kWhite);
+    // The same pixels at the same place in the metafile.
+    int differing = 0;
+    for (int y = 40; y < 50; ++y)
+        for (int x = 30; x < 50; ++x)
+            if (shot.ref(x, y) != played.ref(x, y))
+                ++differing;
+    EXPECT_EQ(differing, 0);
+    EXPECT_EQ(played.ref(31, 41), kRed);
+    EXPECT_EQ(played.ref(48, 48), RGB(0, 0, 255));
 }

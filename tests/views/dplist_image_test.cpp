@@ -295,7 +295,7 @@ TEST_F(DplistImageTest, WheelWithoutAListAnswersOneAndChangesNothing) {
     EXPECT_EQ(image.zoom().m[0][0], 1.0);
 }
 
-TEST_F(DplistImageTest, WheelWithoutMovementChangesNothing) {
+TEST_F(DplistImageTest, WheelOfDeltaZeroGuardChangesNothingAndKeepsTheZoomFinite) {
     CQorGDX gdx = twoSquares();
     image.set_dpList(&gdx);
     EXPECT_EQ(image.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 0), screenPoint(image, 5, 5)), 1);
