@@ -16,9 +16,21 @@
 // or inherited. A message no table has goes to default processing.
 #pragma once
 
+#include "foundation/base/qor_export.h"
+
 #include <windows.h>
 
 class CWnd;
+
+// Reflected notifications are looked up in the control's own map under this
+// offset plus the message (see CWnd::OnChildNotify).
+#define WM_REFLECT_BASE 0xBC00
+
+// The entry of an _EX handler that answered FALSE calls AfxMsgPassOn: the search
+// goes on with the next entries and base maps (and, for a reflected notification,
+// with the parent). AfxMsgTakePassOn reads and clears that mark.
+QOR_API void AfxMsgPassOn();
+QOR_API bool AfxMsgTakePassOn();
 
 // Calls the handler on wnd with the message's parameters and gives the result.
 using AfxMsgDispatch = LRESULT (*)(CWnd* wnd, WPARAM wParam, LPARAM lParam);
@@ -134,3 +146,97 @@ protected:                                                                      
         (self_->*(memberFxn))(reinterpret_cast<NMHDR*>(lParam_), &result_);                        \
         return result_;                                                                            \
     })
+
+// Notifications of controls by WM_COMMAND, each with its control id.
+// void memberFxn()
+#define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
+// void memberFxn()
+#define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
+// void memberFxn()
+#define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
+// void memberFxn()
+#define ON_EN_SETFOCUS(id, memberFxn) ON_CONTROL(EN_SETFOCUS, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_KILLFOCUS(id, memberFxn) ON_CONTROL(CBN_KILLFOCUS, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_SETFOCUS(id, memberFxn) ON_CONTROL(CBN_SETFOCUS, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_EDITCHANGE(id, memberFxn) ON_CONTROL(CBN_EDITCHANGE, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_DROPDOWN(id, memberFxn) ON_CONTROL(CBN_DROPDOWN, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_CLOSEUP(id, memberFxn) ON_CONTROL(CBN_CLOSEUP, id, memberFxn)
+// void memberFxn()
+#define ON_CBN_SELENDOK(id, memberFxn) ON_CONTROL(CBN_SELENDOK, id, memberFxn)
+// void memberFxn()
+#define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
+// void memberFxn()
+#define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
+
+// BOOL memberFxn(UINT id, NMHDR* header, LRESULT* result), for WM_NOTIFY from any
+// control in [id, lastId] (tool tips ask with id 0 and their own code). FALSE
+// lets the search go on.
+#define ON_NOTIFY_EX_RANGE(code, id, lastId, memberFxn)                                            \
+    QOR_MSG_ENTRY(WM_NOTIFY, static_cast<UINT>(code), id, lastId, {                                \
+        LRESULT result_ = 0;                                                                       \
+        const NMHDR* header_ = reinterpret_cast<NMHDR*>(lParam_);                                  \
+        if (!(self_->*(memberFxn))(static_cast<UINT>(header_->idFrom),                             \
+                                   reinterpret_cast<NMHDR*>(lParam_), &result_))                   \
+            AfxMsgPassOn();                                                                        \
+        return result_;                                                                            \
+    })
+// BOOL memberFxn(UINT id, NMHDR* header, LRESULT* result)
+#define ON_NOTIFY_EX(code, id, memberFxn) ON_NOTIFY_EX_RANGE(code, id, id, memberFxn)
+
+// Reflected to the control itself. The handler's control answers; the parent
+// does not see the notification.
+// void memberFxn()
+#define ON_CONTROL_REFLECT(code, memberFxn)                                                        \
+    QOR_MSG_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF, (self_->*(memberFxn))(); return 0;)
+// BOOL memberFxn(): FALSE passes the notification on to the parent.
+#define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                     \
+    QOR_MSG_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF,                                   \
+                  if (!(self_->*(memberFxn))()) AfxMsgPassOn();                                    \
+                  return 0;)
+// void memberFxn(NMHDR* header, LRESULT* result)
+#define ON_NOTIFY_REFLECT(code, memberFxn)                                                         \
+    QOR_MSG_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, static_cast<UINT>(code), 0, 0xFFFF, {               \
+        LRESULT result_ = 0;                                                                       \
+        (self_->*(memberFxn))(reinterpret_cast<NMHDR*>(lParam_), &result_);                        \
+        return result_;                                                                            \
+    })
+// BOOL memberFxn(NMHDR* header, LRESULT* result): FALSE passes it on to the parent.
+#define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                      \
+    QOR_MSG_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, static_cast<UINT>(code), 0, 0xFFFF, {               \
+        LRESULT result_ = 0;                                                                       \
+        if (!(self_->*(memberFxn))(reinterpret_cast<NMHDR*>(lParam_), &result_))                   \
+            AfxMsgPassOn();                                                                        \
+        return result_;                                                                            \
+    })
+// void DrawItem(LPDRAWITEMSTRUCT item)
+#define ON_WM_DRAWITEM_REFLECT()                                                                   \
+    QOR_MSG_ENTRY(WM_REFLECT_BASE + WM_DRAWITEM, 0, 0, 0,                                          \
+                  self_->DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam_));                    \
+                  return TRUE;)
+// void MeasureItem(LPMEASUREITEMSTRUCT item)
+#define ON_WM_MEASUREITEM_REFLECT()                                                                \
+    QOR_MSG_ENTRY(WM_REFLECT_BASE + WM_MEASUREITEM, 0, 0, 0,                                       \
+                  self_->MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam_));              \
+                  return TRUE;)
+
+// Window messages of dialogs.
+// void OnSysCommand(UINT id, LPARAM lParam)
+#define ON_WM_SYSCOMMAND()                                                                         \
+    QOR_MSG_ENTRY(WM_SYSCOMMAND, 0, 0, 0,                                                          \
+                  self_->OnSysCommand(static_cast<UINT>(wParam_), lParam_);                        \
+                  return 0;)
+// BOOL OnHelpInfo(HELPINFO* info)
+#define ON_WM_HELPINFO()                                                                           \
+    QOR_MSG_ENTRY(WM_HELP, 0, 0, 0, return self_->OnHelpInfo(reinterpret_cast<HELPINFO*>(lParam_));)
+// void OnShowWindow(BOOL show, UINT status)
+#define ON_WM_SHOWWINDOW()                                                                         \
+    QOR_MSG_ENTRY(WM_SHOWWINDOW, 0, 0, 0,                                                          \
+                  self_->OnShowWindow(static_cast<BOOL>(wParam_), static_cast<UINT>(lParam_));     \
+                  return 0;)

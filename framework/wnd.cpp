@@ -2,6 +2,7 @@
 
 #include "framework/handle_map.h"
 #include "framework/module_state.h"
+#include "framework/wnd_create_scope_p.h"
 
 #include <memory>
 
@@ -44,6 +45,19 @@ struct CWndCreateHook {
     }
 };
 
+CWndCreateScope::CWndCreateScope(CWnd* wnd)
+    : m_outerHook(t_createHook), m_outerCreating(t_creating) {
+    t_createHook = SetWindowsHookExW(WH_CBT, &CWndCreateHook::proc, nullptr, GetCurrentThreadId());
+    t_creating = wnd;
+}
+
+CWndCreateScope::~CWndCreateScope() {
+    if (t_createHook)
+        UnhookWindowsHookEx(t_createHook);
+    t_createHook = m_outerHook;
+    t_creating = m_outerCreating;
+}
+
 CWnd::~CWnd() {
     if (m_hWnd && !m_temporary && FromHandlePermanent(m_hWnd) == this)
         DestroyWindow();
@@ -82,17 +96,13 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD 
         className = DefaultClassName();
     HMENU menu = (style & WS_CHILD) ? reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)) : nullptr;
 
-    HHOOK outerHook = t_createHook;
-    CWnd* outerCreating = t_creating;
-    t_createHook = SetWindowsHookExW(WH_CBT, &CWndCreateHook::proc, nullptr, GetCurrentThreadId());
-    t_creating = this;
-    HWND made = CreateWindowExW(exStyle, className, windowName, style, rect.left, rect.top,
-                                rect.right - rect.left, rect.bottom - rect.top, parentHwnd, menu,
-                                AfxGetInstanceHandle(), nullptr);
-    if (t_createHook)
-        UnhookWindowsHookEx(t_createHook);
-    t_createHook = outerHook;
-    t_creating = outerCreating;
+    HWND made = nullptr;
+    {
+        CWndCreateScope binding(this);
+        made = CreateWindowExW(exStyle, className, windowName, style, rect.left, rect.top,
+                               rect.right - rect.left, rect.bottom - rect.top, parentHwnd, menu,
+                               AfxGetInstanceHandle(), nullptr);
+    }
     if (!made) {
         // A window refused in WM_NCCREATE or WM_CREATE is gone already.
         if (m_hWnd)
@@ -331,9 +341,12 @@ namespace {
 
 // Whether the entry serves this message: plain messages by number, WM_COMMAND by
 // notification code and id, WM_NOTIFY by the code and id in its header.
+// Reflected notifications (WM_REFLECT_BASE + message) match in the same way.
 bool entryMatches(const AFX_MSGMAP_ENTRY& e, UINT message, WPARAM wParam, LPARAM lParam) {
     if (e.message != message)
         return false;
+    if (message == WM_REFLECT_BASE + WM_COMMAND || message == WM_REFLECT_BASE + WM_NOTIFY)
+        message -= WM_REFLECT_BASE;
     if (message == WM_COMMAND) {
         UINT id = LOWORD(wParam);
         return e.code == HIWORD(wParam) && id >= e.id && id <= e.lastId;
@@ -351,11 +364,15 @@ bool entryMatches(const AFX_MSGMAP_ENTRY& e, UINT message, WPARAM wParam, LPARAM
 } // namespace
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
+    if (ReflectChildNotify(message, wParam, lParam, result))
+        return TRUE;
     for (const AFX_MSGMAP* map = GetMessageMap(); map;
          map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr) {
         for (const AFX_MSGMAP_ENTRY* e = map->lpEntries; e && e->dispatch; ++e) {
             if (entryMatches(*e, message, wParam, lParam)) {
                 LRESULT r = e->dispatch(this, wParam, lParam);
+                if (AfxMsgTakePassOn())
+                    continue;
                 if (result)
                     *result = r;
                 return TRUE;

@@ -80,6 +80,10 @@ public:
     bool IsKindOf(const CRuntimeClass* cls) const { return GetRuntimeClass()->IsDerivedFrom(cls); }
 
     // --- Messages.
+    // Offered each message of a modal loop before it is dispatched: first for the
+    // window it is for, then for each parent up to the dialog. True when the message
+    // was handled and is not to be dispatched. This one handles nothing.
+    virtual BOOL PreTranslateMessage(MSG* msg);
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
@@ -132,6 +136,13 @@ protected:
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // Default processing of the message being handled now.
     LRESULT Default();
+    // Reflection (framework/reflect.cpp). A parent offers the notifications of a
+    // bound child control (WM_COMMAND and WM_NOTIFY from it, WM_DRAWITEM and
+    // WM_MEASUREITEM for it) to the child's OnChildNotify before its own maps; the
+    // child looks them up as WM_REFLECT_BASE + message. True when the child handled
+    // the notification (then result is its answer and the parent does not see it).
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     // Just after binding by SubclassWindow.
     virtual void PreSubclassWindow() {}
     // After WM_NCDESTROY, the window unbound.
