@@ -302,7 +302,6 @@ TEST(GlyphFrame, RoundAndSerifedOBAndIOvershootFromMinus0point0101695To1point010
 
 TEST(GlyphFrame, StemOfSmallIIs0point6664HighAndRoundLowerCaseReaches0point678) {
     CQorPoint3d lo, hi;
-    glyphBox(get_ascii_from_map(L'i'), lo, hi);
     boxOf(get_ascii_from_map(L'i')[0][0], lo, hi);
     EXPECT_EQ(lo.y, 0.0);
     EXPECT_EQ(hi.y, 0.6664);
