@@ -237,7 +237,9 @@ unsigned long CQorGDX::itemColorGet(int i) const {
 }
 
 bool CQorGDX::ColorTabSet(int mode, const CQorColor& c) {
-    if (mode <= 0 || mode >= 15)
+    // A negative mode is an index like any other: mode - 1 counts from the end of
+    // the table (on an empty table it writes a scratch element).
+    if (mode == 0 || mode >= 15)
         return false;
     m_colorTab[mode - 1] = c;
     return true;

@@ -94,7 +94,8 @@ public:
     void pdModeSet(unsigned long v) { m_pdMode = static_cast<std::uint32_t>(v); }
     int ColorTabLenGet() const { return m_colorTab.len(); }
     const CQorColor& colorTabGet(int mode) const { return m_colorTab[mode - 1]; }
-    // False and no change for mode 0 and modes of 15 and above.
+    // False and no change for mode 0 and modes of 15 and above. Writes entry mode - 1,
+    // growing the table; a negative mode counts from the end of the table.
     bool ColorTabSet(int mode, const CQorColor& c);
 
     // --- Group operations.

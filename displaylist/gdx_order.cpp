@@ -71,7 +71,9 @@ int CQorGDX::imageItemGet(const CQorPoint3d& p) {
                 const CQorVertex& v = placed[k];
                 if (v.m_start == v.m_end)
                     continue;
-                found = w.distanceTo(v.lotp(w)) <= kPickTolerance;
+                // An arc bulges to its side of the contour's own plane, so the foot
+                // is found with the contour's normal.
+                found = w.distanceTo(v.lotp(w, placed.normal())) <= kPickTolerance;
             }
         } else if (item.type == GDX_PT) {
             CQorPoint3d placed(item.point);

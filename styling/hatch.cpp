@@ -12,10 +12,6 @@ constexpr double kPi = 3.14159265358979323846;
 constexpr double kDegree = kPi / 180.0;
 // The row distance of the built-in table of "_USER" and "_U".
 constexpr double kUserRowDist = 1.0;
-// The first descent is walked step by step up to this many steps; a seed further
-// away is first moved by all but this many steps at once, so that a region far
-// from the origin of a fine pattern costs no more than a near one.
-constexpr double kDescentWalk = 1.0e6;
 
 // Slack of the quick rejection of dashes far from a span, relative to the span's
 // length; far above the point tolerance, so it never rejects a dash that touches.
@@ -205,21 +201,15 @@ void hatchFamily(const CQorArrayTempl<double>& line, const Regions& regions, con
     const CQorPoint3d b = base * frameInv;
     CQorVertexArray seed(CQorVertex(QOR::polar(b, 0.0, -halfLen), QOR::polar(b, 0.0, halfLen)));
 
-    // First descent: to just below the lowest point of the first contour.
-    if (step.dy != 0.0) {
-        const double ahead = (seed[0].mid().y - extL[0].y) / std::fabs(step.dy);
-        if (ahead > kDescentWalk && std::isfinite(ahead)) {
-            const double jump = std::trunc(ahead - kDescentWalk);
-            const double sx = step.dy > 0.0 ? -step.dx : step.dx;
-            seed.move(CQorVector3d(0.0, -std::fabs(step.dy) * jump, 0.0));
-            if (step.dx != 0.0)
-                seed.move(CQorVector3d(sx * jump, 0.0, 0.0));
-        }
-        // A step below the precision of the coordinates would never arrive.
-        for (double walked = 0.0; seed[0].mid().y > extL[0].y && walked < 4.0 * kDescentWalk;
-             walked += 1.0)
+    // First descent: to just below the lowest point of the first contour. A row
+    // distance below the precision of the coordinates would never arrive; the
+    // descent stops after QOR::kHatchFirstDescentMostSteps steps.
+    if (step.dy != 0.0)
+        while (seed[0].mid().y > extL[0].y &&
+               st.firstDescentSteps < QOR::kHatchFirstDescentMostSteps) {
             step.down(seed);
-    }
+            ++st.firstDescentSteps;
+        }
 
     const long long limit =
         static_cast<long long>(rows) *

@@ -22,17 +22,20 @@ constexpr long long kHatchBudgetGravelSmall = 200;
 constexpr long long kHatchAscentFactor = 3;  // upward budget in row budgets
 constexpr double kHatchGuardMostRows = 95.0; // qor_gdx_pattern_test
 constexpr double kHatchGuardLeastDist = 2.3; // device units
-constexpr double kHatchOldOvershoot = 10.0;  // older dot grid, each side
+// Most steps of the first descent from the base point down to the region.
+constexpr long long kHatchFirstDescentMostSteps = 4000000;
+constexpr double kHatchOldOvershoot = 10.0; // older dot grid, each side
 
 // What one family of qor_gdx_image_reg_hatch2 did: its row count over the first
-// contour, the half length of its rows, its budget (limit) and the
-// steps it took in the second descent and in the ascent, the rows it gave, and
+// contour, the half length of its rows, its budget (limit), the steps of the
+// first descent, the steps it took in the second descent and in the ascent, the rows it gave, and
 // whether the ascent ended by running out of budget rather than by leaving the
 // first contour after a hit.
 struct HatchFamilyStats {
     int rows = 0;
     double halfLen = 0.0;
     long long limit = 0;
+    long long firstDescentSteps = 0;
     long long descentSteps = 0;
     long long ascentSteps = 0;
     int rowsOut = 0;

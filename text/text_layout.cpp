@@ -73,8 +73,7 @@ GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint
     const int n = out.len();
     for (int b = 0; b < n; ++b) {
         CQorArrayTempl<CQorVertexArray>& region = out[b];
-        const int last = n <= kTxtPadLimit ? n : std::min(n, region.len());
-        for (int c = 0; c < last; ++c)
+        for (int c = 0; c < n; ++c)
             region[c].move(shift);
     }
     return out;

@@ -28,12 +28,9 @@ constexpr double kTxtEndCorrection = 0.3;
 // Characters without a glyph take no room. Text items lay out with the built-in
 // font (get_ascii_from_map). The shift reaches contour c of region b for b and c
 // below the number of regions n, as element access: a region with fewer than n
-// contours is padded with empty ones (up to kTxtPadLimit regions), and contours with
+// contours is padded with empty ones (so n regions carry n contours each, a
+// number of contours quadratic in the length of the text), and contours with
 // an index of n or more keep their place. Null strings count as empty.
 QOR_API GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint3d& point,
                                GlyphFn glyphs);
-// Above this many regions the shift no longer pads regions with empty contours, so
-// a long text cannot make a quadratic number of them.
-constexpr int kTxtPadLimit = 512;
-
 } // namespace QOR

@@ -50,8 +50,9 @@ public:
     // m_edge set to the profile point of its circle or the side of its
     // silhouette, and m_flags 1 for a circle, 2 for a silhouette. The body is
     // convex, so an edge is visible exactly when a face beside it faces the
-    // viewer. False when evaluate() has not succeeded, the modeler is not 1, or
-    // the view cannot be inverted.
+    // viewer. Circles of a radius and sides of a length below QOR::kPointTol are
+    // not projected, so a body that small projects to nothing. False when evaluate() has not
+    // succeeded, the modeler is not 1, or the view cannot be inverted.
     virtual bool project(const CQorMatrix3d& view, bool hidden,
                          CQorArrayTempl<CQorVertexArrayEx>& first,
                          CQorArrayTempl<CQorVertexArrayEx>& second, QOR_MODELER_TYPE modeler);

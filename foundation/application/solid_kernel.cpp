@@ -1,4 +1,5 @@
 #include "foundation/application/qor_solid.h"
+#include "foundation/base/qor_tolerance.h"
 
 #include <cmath>
 
@@ -6,6 +7,9 @@ namespace {
 
 constexpr double kPiValue = 3.14159265358979323846;
 constexpr double kFacingTol = 1e-12;
+// Circles of a smaller radius and sides of a smaller length are below the
+// kernel's resolution and are not projected.
+constexpr double kResolution = QOR::kPointTol;
 
 // The half width of the range of angles phi, centred on the view's azimuth psi,
 // over which a face whose normal has the radial part cb and the axial part sb
@@ -175,7 +179,7 @@ bool CQor_Solid::project(const CQorMatrix3d& view, bool hidden,
     for (int k = 1; k + 1 < m; ++k) {
         const double r = m_closed[k].x;
         const double z = m_closed[k].y;
-        if (r <= 0.0)
+        if (r < kResolution)
             continue;
         const double w = std::fmax(width[k - 1], width[k]);
         CQorVertexArrayEx seen;
@@ -208,6 +212,8 @@ bool CQor_Solid::project(const CQorMatrix3d& view, bool hidden,
             continue;
         const CQorPoint3d& a = m_closed[i];
         const CQorPoint3d& b = m_closed[i + 1];
+        if (std::hypot(b.x - a.x, b.y - a.y) < kResolution)
+            continue;
         for (double phi : {psi - w, psi + w}) {
             const double c = std::cos(phi), s = std::sin(phi);
             CQorVertexArrayEx line(CQorVertexArray(CQorVertex(

@@ -172,3 +172,41 @@ TEST(Order, MixedListComesOutInTheSixLayers) {
     for (int i = 0; i < 8; ++i)
         EXPECT_EQ(topGroup(gdx, i), expected[i]) << "position " << i;
 }
+
+TEST(Pick, ArcOfAMirroredContourIsHitOnItsOwnSide) {
+    // A half circle from (0, 0) to (100, 0) in a contour whose normal is -Z: seen from
+    // +Z it bulges to +Y, the mirror image of the same vertex under +Z.
+    CQorVertexArray mirrored;
+    mirrored.append(CQorVertex(CQorPoint3d(0, 0, 0), CQorPoint3d(100, 0, 0), 1.0));
+    mirrored.normalSet(CQorVector3d(0, 0, -1));
+    CQorGDX gdx = plainDoc();
+    gdx.imageVl(path({6}), 0, mirrored, indexed(1), CQorMatrix3d(), CQorArrayTempl<double>(), 1.0,
+                1, CQorPoint3d());
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(50, 52, 0)), 6);   // 2 off the bulge
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(50, -52, 0)), -1); // same distance, other side
+
+    // The same vertex under +Z bulges the other way.
+    CQorVertexArray plain;
+    plain.append(CQorVertex(CQorPoint3d(0, 0, 0), CQorPoint3d(100, 0, 0), 1.0));
+    CQorGDX other = plainDoc();
+    other.imageVl(path({7}), 0, plain, indexed(1), CQorMatrix3d(), CQorArrayTempl<double>(), 1.0, 1,
+                  CQorPoint3d());
+    EXPECT_EQ(other.imageItemGet(CQorPoint3d(50, -52, 0)), 7);
+    EXPECT_EQ(other.imageItemGet(CQorPoint3d(50, 52, 0)), -1);
+}
+
+TEST(Pick, TextItemsAreNeverPicked) {
+    // "H" ten units high: its left stem is the band x 1.55932 to 1.78305.
+    CQorMatrix3d tenfold;
+    tenfold.setToScaling(10.0, CQorPoint3d());
+    CQorGDX gdx = plainDoc();
+    gdx.imageTxt(path({8}), 0, L"H", indexed(1), tenfold, L"BL", CQorPoint3d(), CQorPoint3d());
+    ASSERT_EQ(gdx.lenGet(), 1);
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(1.6, 5, 0)), -1);     // on the stem's outline
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(1.55932, 0, 0)), -1); // on a corner
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(0, 0, 0)), -1);       // on the insertion point
+
+    // A line along the same stem is found at the same place.
+    addLine(gdx, {9}, 0, segment(1.55932, 0, 1.55932, 10));
+    EXPECT_EQ(gdx.imageItemGet(CQorPoint3d(1.6, 5, 0)), 9);
+}

@@ -227,6 +227,27 @@ TEST(Gdx, ColorTableRejectsModesZeroAndFifteen) {
     EXPECT_LT(gdx.colorTabGet(40).colorIndex(), 0);
 }
 
+TEST(Gdx, ColorTabSetWithANegativeModeWritesTheEntryCountedFromTheEnd) {
+    CQorGDX gdx = plainDoc();
+    // On an empty table a negative mode writes a scratch element: true, table empty.
+    EXPECT_TRUE(gdx.ColorTabSet(-1, indexed(8)));
+    EXPECT_EQ(gdx.ColorTabLenGet(), 0);
+    for (int mode = 1; mode <= 5; ++mode)
+        ASSERT_TRUE(gdx.ColorTabSet(mode, indexed(static_cast<short>(mode))));
+    // Mode -1 is entry -2, the second to last (entry 3, mode 4).
+    EXPECT_TRUE(gdx.ColorTabSet(-1, indexed(40)));
+    EXPECT_EQ(gdx.ColorTabLenGet(), 5);
+    EXPECT_EQ(gdx.colorTabGet(4).colorIndex(), 40);
+    EXPECT_EQ(gdx.colorTabGet(5).colorIndex(), 5);
+    // Mode 0 is entry -1, but mode 0 is refused: the last entry stays.
+    EXPECT_FALSE(gdx.ColorTabSet(0, indexed(41)));
+    EXPECT_EQ(gdx.colorTabGet(5).colorIndex(), 5);
+    // A count that runs past the front lands on the first entry (mode 1).
+    EXPECT_TRUE(gdx.ColorTabSet(-7, indexed(42)));
+    EXPECT_EQ(gdx.colorTabGet(1).colorIndex(), 42);
+    EXPECT_EQ(gdx.ColorTabLenGet(), 5);
+}
+
 TEST(Gdx, HatchGetOfMinusOneFailsWhileFlagGetReadsTheLast) {
     CQorGDX gdx = plainDoc();
     addLine(gdx, {1}, 0x10, segment(0, 0, 1, 1));

@@ -444,8 +444,8 @@ TEST_F(GdxTextHost, UnknownHostFunctionAddsNothing) {
     EXPECT_EQ(gdx.lenGet(), 0);
 }
 
-TEST_F(GdxText, LongTextIsShiftedWithoutPaddingEveryRegion) {
-    const int n = QOR::kTxtPadLimit + 100;
+TEST_F(GdxText, LongTextPadsEveryRegionToTheNumberOfRegions) {
+    const int n = 612;
     std::wstring text(static_cast<size_t>(n), L'a');
     const Regions out = layout(text.c_str(), L"BR");
     ASSERT_EQ(out.len(), n);
@@ -453,6 +453,10 @@ TEST_F(GdxText, LongTextIsShiftedWithoutPaddingEveryRegion) {
     expectBox(out[n - 1][0], 1.5 * (n - 1) - (1.5 * n - 0.3), 0.0,
               1.5 * (n - 1) + 1.0 - (1.5 * n - 0.3), 1.0);
     expectBox(out[0][0], -(1.5 * n - 0.3), 0.0, 1.0 - (1.5 * n - 0.3), 1.0);
-    EXPECT_EQ(out[0].len(), 1);
-    EXPECT_EQ(out[n - 1].len(), 1);
+    // Every region is padded with empty contours up to n.
+    for (int b = 0; b < n; ++b) {
+        ASSERT_EQ(out[b].len(), n) << b;
+        EXPECT_EQ(out[b][1].len(), 0) << b;
+        EXPECT_EQ(out[b][n - 1].len(), 0) << b;
+    }
 }

@@ -142,6 +142,16 @@ TEST(ImageDrill, ViewThreeWithoutSolidModelIsFalseAndAddsNothing) {
     EXPECT_EQ(gdx.lenGet(), 0);
 }
 
+TEST(ImageDrill, ViewThreeWithNothingProjectedGivesTrueAndNoItems) {
+    // A drill below the kernel's resolution is a model, but no edge of it is seen.
+    FilePtr object = open("\"TYPE\" = \"DRILL\"\n\"DIA\" = 1e-10\n\"DEPTH\" = 1e-10\n"
+                          "\"TIP\" = 180.0\n\"VIEW\" = 3\n");
+    FilePtr params = open("\"COORD\" = t\n\"STACK\" = (7)\n");
+    CQorGDX gdx = emptyDoc();
+    EXPECT_TRUE(qor_gdx_image_drill(&gdx, object.get(), params.get()));
+    EXPECT_EQ(gdx.lenGet(), 0);
+}
+
 TEST(ImageDrill, ViewThreeLinesTakeTheColourOfThePartSolidLayer) {
     FilePtr object = open("\"TYPE\" = \"DRILL\"\n\"DIA\" = 12.5\n\"DEPTH\" = 30.0\n"
                           "\"VIEW\" = 3\n\"PART_SOLID\" = \"NO SUCH LAYER\"\n");

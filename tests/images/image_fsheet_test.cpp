@@ -480,7 +480,7 @@ TEST_F(ImageFSheet, FaceWithoutGeometryIsDrawnAsOneEmptyContour) {
     EXPECT_EQ(gdx.typeGet(1), GDX_PT);
 }
 
-TEST_F(ImageFSheet, HugeNumberOfSegmentsEndsTheCentreLines) {
+TEST_F(ImageFSheet, GuardEndsTheCentreLinesAfterTenThousandAndOne) {
     QOR::fsheetCatalogClear();
     const std::string text = "\"HUGE\" {\n\"SEG\" = 1.0\n\"N\" = 1e300\n}\n";
     CQorString error;

@@ -91,9 +91,16 @@ TEST(HatchLines, MatrixTakesRegionInAndRowsOut) {
     EXPECT_NEAR(out[9][0].m_start.y, 54.5, kEps);
 }
 
-TEST(HatchLines, DotsWithStepZeroOverAHeightDrawNothingInsteadOfRunningOn) {
+TEST(HatchLines, GuardDrawsNothingForDotsWithStepZeroOverAHeight) {
     const Rows out = qor_gdx_image_reg_hatch(region({rect(0, 0, 10, 10)}), CQorMatrix3d(),
                                              CQorString(L"DOTS"), 0.0, 0.0);
+    EXPECT_EQ(out.len(), 0);
+}
+
+TEST(HatchLines, GuardDrawsNoRowsWhenTheRowCountPassesTheIntRange) {
+    // 2^31 units wide: one row more than an int counts.
+    const Rows out = qor_gdx_image_reg_hatch(region({rect(0, 0, 2147483648.0, 3)}), CQorMatrix3d(),
+                                             CQorString(L"X"), 0.25, 0.0);
     EXPECT_EQ(out.len(), 0);
 }
 

@@ -427,3 +427,25 @@ TEST(Hatch, ClipIsOnePassAgainstTheFirstContourSoANarrowHoleCanBeCrossed) {
     ASSERT_EQ(rows[1].len(), 3) << dump(rows);
     expectPiece(rows[1][1], 4, 1, 7, 1);
 }
+
+TEST(Hatch, GuardStopsTheFirstDescentAfterFourMillionSteps) {
+    // Base points 3,999,900 and 4,000,100 rows above a region 10 high.
+    PatternHost host;
+    host.add(L"NEAR", {{0, 0, 3999900.0, 0, 1.0}});
+    host.add(L"FAR", {{0, 0, 4000100.0, 0, 1.0}});
+    CQorArrayTempl<QOR::HatchFamilyStats> stats;
+    const Rows near = QOR::hatchRegion2(region({rect(0, 0, 10, 10)}), CQorMatrix3d(),
+                                        QOR::CHatchProp(L"NEAR", 0, 1, false), &stats);
+    ASSERT_EQ(stats.len(), 1);
+    EXPECT_EQ(stats[0].firstDescentSteps, 3999900);
+    EXPECT_EQ(near.len(), 11);
+
+    stats.setLogicalLength(0);
+    const Rows far = QOR::hatchRegion2(region({rect(0, 0, 10, 10)}), CQorMatrix3d(),
+                                       QOR::CHatchProp(L"FAR", 0, 1, false), &stats);
+    ASSERT_EQ(stats.len(), 1);
+    EXPECT_EQ(stats[0].firstDescentSteps, QOR::kHatchFirstDescentMostSteps);
+    EXPECT_EQ(stats[0].firstDescentSteps, 4000000);
+    // The descent stopped 100 rows above the region; the rows budget does not reach it.
+    EXPECT_EQ(far.len(), 0);
+}

@@ -57,16 +57,6 @@ TEST(StylingRobustness, HatchOfCoordinatesNotFiniteGivesNoRows) {
     }
 }
 
-TEST(StylingRobustness, SeedFarAboveTheRegionIsBroughtDownAtOnce) {
-    // A base point 10^9 row distances above the region: the first descent still
-    // ends below the region and the rows are found.
-    PatternHost host;
-    host.add(L"FAR", {{0, 0, 1e9, 0, 1.0}});
-    const auto rows = qor_gdx_image_reg_hatch2(region({rect(0, 0, 10, 10)}), CQorMatrix3d(),
-                                               QOR::CHatchProp(L"FAR", 0, 1, false));
-    EXPECT_EQ(rows.len(), 11);
-}
-
 TEST(StylingRobustness, SingularMatrixDoesNotBreakTheHatch) {
     CQorMatrix3d flat;
     flat.setCoordSystem(CQorPoint3d(), CQorVector3d(), CQorVector3d(), CQorVector3d());

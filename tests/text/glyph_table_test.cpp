@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cwchar>
+#include <map>
 #include <set>
 
 namespace {
@@ -269,18 +272,118 @@ TEST(GlyphTable, InkStaysInTheGlyphCell) {
     EXPECT_NEAR(widest, 1.17763, 1e-9);
 }
 
-TEST(GlyphTable, FlatLettersSpanTheCapHeightAndRoundOnesOvershoot) {
+// The frame of the glyph cell, row by row.
+
+TEST(GlyphFrame, BaselineIsYZeroWhereFlatLettersStand) {
     for (wchar_t c : {L'E', L'F', L'H', L'L', L'T', L'Z'}) {
         CQorPoint3d lo, hi;
         glyphBox(get_ascii_from_map(c), lo, hi);
-        EXPECT_NEAR(lo.y, 0.0, 1e-9) << static_cast<int>(c);
-        EXPECT_NEAR(hi.y, 1.0, 1e-9) << static_cast<int>(c);
+        EXPECT_EQ(lo.y, 0.0) << static_cast<int>(c);
     }
+}
+
+TEST(GlyphFrame, FlatCapitalHSpansYZeroToOne) {
+    for (wchar_t c : {L'E', L'F', L'H', L'L', L'T', L'Z'}) {
+        CQorPoint3d lo, hi;
+        glyphBox(get_ascii_from_map(c), lo, hi);
+        EXPECT_EQ(lo.y, 0.0) << static_cast<int>(c);
+        EXPECT_EQ(hi.y, 1.0) << static_cast<int>(c);
+    }
+}
+
+TEST(GlyphFrame, RoundAndSerifedOBAndIOvershootFromMinus0point0101695To1point01085) {
+    for (wchar_t c : {L'O', L'B', L'I'}) {
+        CQorPoint3d lo, hi;
+        glyphBox(get_ascii_from_map(c), lo, hi);
+        EXPECT_EQ(lo.y, -0.0101695) << static_cast<int>(c);
+        EXPECT_EQ(hi.y, 1.01085) << static_cast<int>(c);
+    }
+}
+
+TEST(GlyphFrame, StemOfSmallIIs0point6664HighAndRoundLowerCaseReaches0point678) {
     CQorPoint3d lo, hi;
-    glyphBox(get_ascii_from_map(L'O'), lo, hi);
-    EXPECT_NEAR(lo.y, -0.0101695, 2e-4);
-    EXPECT_NEAR(hi.y, 1.01085, 2e-4);
-    EXPECT_NEAR(hi.x, 0.844746, 2e-4);
+    boxOf(get_ascii_from_map(L'i')[0][0], lo, hi);
+    EXPECT_EQ(lo.y, 0.0);
+    EXPECT_EQ(hi.y, 0.6664);
+    // With the overshoot, to 0.678 at three digits.
+    for (wchar_t c : {L'a', L'c', L'e', L'o', L's'}) {
+        glyphBox(get_ascii_from_map(c), lo, hi);
+        EXPECT_EQ(std::round(hi.y * 1000.0) / 1000.0, 0.678) << static_cast<int>(c);
+    }
+}
+
+TEST(GlyphFrame, LowestPointIsMinus0point343729AndOnlyGJAndYReachIt) {
+    std::set<unsigned> reaching;
+    double lowest = 0.0;
+    for (unsigned key : expectedKeys()) {
+        CQorPoint3d lo, hi;
+        glyphBox(get_ascii_from_map(static_cast<wchar_t>(key)), lo, hi);
+        lowest = std::min(lowest, lo.y);
+        if (lo.y == -0.343729)
+            reaching.insert(key);
+    }
+    EXPECT_EQ(lowest, -0.343729);
+    EXPECT_EQ(reaching, (std::set<unsigned>{L'g', L'j', L'y'}));
+}
+
+TEST(GlyphFrame, LeftBearingLiesBetween0point14And0point17MostOften0point155932) {
+    std::map<double, int> count;
+    for (unsigned key : expectedKeys()) {
+        CQorPoint3d lo, hi;
+        glyphBox(get_ascii_from_map(static_cast<wchar_t>(key)), lo, hi);
+        EXPECT_GE(lo.x, 0.14) << key;
+        EXPECT_LE(lo.x, 0.17) << key;
+        ++count[lo.x];
+    }
+    const auto most = std::max_element(count.begin(), count.end(),
+                                       [](auto& a, auto& b) { return a.second < b.second; });
+    EXPECT_EQ(most->first, 0.155932);
+    // The serifed "I" begins at 0.16678.
+    CQorPoint3d lo, hi;
+    glyphBox(get_ascii_from_map(L'I'), lo, hi);
+    EXPECT_EQ(lo.x, 0.16678);
+}
+
+TEST(GlyphFrame, RightEdgeOfMostGlyphsIs0point844746) {
+    std::map<double, int> count;
+    for (unsigned key : expectedKeys()) {
+        CQorPoint3d lo, hi;
+        glyphBox(get_ascii_from_map(static_cast<wchar_t>(key)), lo, hi);
+        ++count[hi.x];
+    }
+    const auto most = std::max_element(count.begin(), count.end(),
+                                       [](auto& a, auto& b) { return a.second < b.second; });
+    EXPECT_EQ(most->first, 0.844746);
+}
+
+TEST(GlyphFrame, WidestGlyphsAreVAndWTo1point17763) {
+    std::set<unsigned> widest;
+    for (unsigned key : expectedKeys()) {
+        CQorPoint3d lo, hi;
+        glyphBox(get_ascii_from_map(static_cast<wchar_t>(key)), lo, hi);
+        EXPECT_LE(hi.x, 1.17763) << key;
+        if (hi.x == 1.17763)
+            widest.insert(key);
+    }
+    EXPECT_EQ(widest, (std::set<unsigned>{L'V', L'W'}));
+}
+
+TEST(GlyphFrame, StrokeWidthIs0point022373FromX0point155932To0point178305) {
+    CQorPoint3d lo, hi;
+    glyphBox(get_ascii_from_map(L'.'), lo, hi);
+    EXPECT_EQ(lo.x, 0.155932);
+    EXPECT_EQ(hi.x, 0.178305);
+    EXPECT_NEAR(hi.x - lo.x, 0.022373, 1e-15);
+}
+
+TEST(GlyphFrame, ZIsZeroEverywhere) {
+    for (unsigned key : expectedKeys())
+        for (const auto& region : get_ascii_from_map(static_cast<wchar_t>(key)))
+            for (const CQorVertexArray& c : region)
+                for (const CQorVertex& v : c) {
+                    ASSERT_EQ(v.m_start.z, 0.0) << key;
+                    ASSERT_EQ(v.m_end.z, 0.0) << key;
+                }
 }
 
 TEST(GlyphTable, StemOfSmallIHasTheXHeight) {

@@ -32,7 +32,9 @@ B = HW  # centre of a bar on the baseline
 T = 1.0 - HW  # centre of a bar at the cap height
 XH = 0.6664  # x-height (top of the stem of "i")
 XT = XH - HW
-DESC = -0.343729  # lowest point (descenders)
+DESC = -0.343729  # lowest point (the curved descenders of "g", "j", "y")
+DESC_REACH = 0.01  # the descenders are drawn this far below DESC and clipped to it
+STEM_DESC = -0.33  # the straight descenders of "p" and "q" stop short of DESC
 OVER_LO = -0.0101695  # overshoot of round letters
 OVER_HI = 1.01085
 SEGS = 32  # pieces of a full ellipse
@@ -146,9 +148,11 @@ G['@'] = [ring(0.36, 0.3, 0.68, 0.7),
 A_BAR_X = (XL - 0.01) + (0.3 + 0.02) / 1.04 * (C - XL + 0.01)  # left leg's centre at y 0.3
 G['A'] = [[(XL - 0.01, -0.02), (C, 1.02), (XR + 0.01, -0.02)], [(A_BAR_X, 0.3), (2 * C - A_BAR_X, 0.3)]]
 CLIP['A'] = (0.0, 0.0, 1.0, 1.0)
-G['B'] = [[(L, 0.0), (L, 1.0)],
-          [(L, T), (0.59, T)] + bowl(0.38, 0.5 - HW, 0.8, 1.0, 90, -90) + [(L, 0.5)],
-          [(L, 0.5), (0.6223, 0.5)] + bowl(0.4, 0.0, XR, 0.5 + HW, 90, -90) + [(L, B)]]
+G['B'] = [[(L, OVER_LO), (L, OVER_HI)],
+          [(L, OVER_HI - HW), (0.59, OVER_HI - HW)] + bowl(0.38, 0.5 - HW, 0.8, OVER_HI, 90, -90)
+          + [(L, 0.5)],
+          [(L, 0.5), (0.6223, 0.5)] + bowl(0.4, OVER_LO, XR, 0.5 + HW, 90, -90)
+          + [(L, OVER_LO + HW)]]
 G['C'] = [bowl(XL, OVER_LO, XR + 0.02, OVER_HI, 40, 320)]
 G['D'] = [[(L, B), (L, T), (0.5, T)] + bowl(XL, 0.0, XR, 1.0, 90, 0) + bowl(XL, 0.0, XR, 1.0, 0, -90)
           + [(L, B)]]
@@ -167,7 +171,11 @@ CLIP['N'] = (0.0, 0.0, 1.0, 1.0)
 G['O'] = [o_ring()]
 G['P'] = [[(L, 0.0), (L, T), (0.5, T)] + bowl(0.2, 0.44, XR, 1.0, 90, -90) + [(L, 0.44 + HW)]]
 G['Q'] = [o_ring(), [(0.56, 0.25), (XR + 0.02, -0.06)]]
-CLIP['Q'] = (0.0, OVER_LO, XR, 1.1)
+CLIP['Q'] = (0.0, OVER_LO, XR, OVER_HI)
+# The mitred corners of a widened ring stand out a little beyond its box; round
+# capitals are clipped to the overshoot band so that they keep it exactly.
+for _name in ('O', '0', 'B'):
+    CLIP[_name] = (0.0, OVER_LO, 2.0, OVER_HI)
 G['R'] = [[(L, 0.0), (L, T), (0.5, T)] + bowl(0.2, 0.44, XR, 1.0, 90, -90) + [(L, 0.44 + HW)],
           [(0.5, 0.45), (XR + 0.01, -0.02)]]
 CLIP['R'] = (0.0, 0.0, XR, 1.1)
@@ -195,10 +203,13 @@ G['e'] = [[(L, 0.33), (0.8 - HW, 0.33)] + bowl(XL, XO_LO, 0.8, XO_HI, 0, 320)]
 G['f'] = [bowl(0.3, 0.7, 0.7, 1.01, 20, 180) + [(0.3 + HW, 0.0)], [(XL, XT), (0.6, XT)]]
 CLIP['f'] = (0.0, 0.0, 1.0, 1.1)
 G['g'] = [ring(XL, 0.0, 0.8, XO_HI), [(0.8 - HW, XH), (0.8 - HW, -0.15)]
-          + bowl(XL + 0.02, DESC, 0.8, 0.05, 0, -160)]
+          + bowl(XL + 0.02, DESC - DESC_REACH, 0.8, 0.05, 0, -160)]
+CLIP['g'] = (0.0, DESC, 1.0, 1.1)
 G['h'] = [[(L, 1.0), (L, 0.0)], [(L, 0.4)] + bowl(XL, 0.0, 0.8, XO_HI, 150, 0) + [(0.8 - HW, 0.0)]]
 G['i'] = [[(L, 0.0), (L, XH)], dot(L, 0.83)]
-G['j'] = [[(0.42, XH), (0.42, -0.15)] + bowl(XL, DESC, 0.42 + HW, 0.0, 0, -150), dot(0.42, 0.83)]
+G['j'] = [[(0.42, XH), (0.42, -0.15)] + bowl(XL, DESC - DESC_REACH, 0.42 + HW, 0.0, 0, -150),
+          dot(0.42, 0.83)]
+CLIP['j'] = (0.0, DESC, 1.0, 1.1)
 G['k'] = [[(L, 0.0), (L, 1.0)], [(0.74, XH + 0.02), (L, 0.2)], [(0.36, 0.36), (0.76, -0.02)]]
 CLIP['k'] = (0.0, 0.0, 1.0, XH)
 G['l'] = [[(L, 0.0), (L, 1.0)]]
@@ -206,8 +217,8 @@ G['m'] = [[(L, 0.0), (L, XH)], [(L, 0.4)] + bowl(XL, 0.0, 0.5, XO_HI, 160, 0) + 
           [(0.5 - HW, 0.4)] + bowl(0.5 - SW, 0.0, XR, XO_HI, 160, 0) + [(R, 0.0)]]
 G['n'] = [[(L, 0.0), (L, XH)], [(L, 0.4)] + bowl(XL, 0.0, 0.8, XO_HI, 150, 0) + [(0.8 - HW, 0.0)]]
 G['o'] = [ring(XL, XO_LO, 0.8, XO_HI)]
-G['p'] = [[(L, XH), (L, DESC)], ring(XL, XO_LO, 0.8, XO_HI)]
-G['q'] = [[(0.8 - HW, XH), (0.8 - HW, DESC)], ring(XL, XO_LO, 0.8, XO_HI)]
+G['p'] = [[(L, XH), (L, STEM_DESC)], ring(XL, XO_LO, 0.8, XO_HI)]
+G['q'] = [[(0.8 - HW, XH), (0.8 - HW, STEM_DESC)], ring(XL, XO_LO, 0.8, XO_HI)]
 G['r'] = [[(L, 0.0), (L, XH)], [(L, 0.36)] + bowl(XL, 0.0, 0.78, XO_HI, 160, 40)]
 G['s'] = [bowl(XL, 0.33 - HW, 0.76, XO_HI, 30, 270) + bowl(XL, XO_LO, 0.76, 0.33 + HW, 90, -150)]
 G['t'] = [[(0.3, 0.9), (0.3, 0.15)] + bowl(0.3 - HW, XO_LO, 0.62, 0.3, 180, 300), [(XL, XT), (0.6, XT)]]
@@ -219,7 +230,9 @@ G['w'] = [[(XL - 0.01, XH + 0.03), (0.34, 0.0), (0.5, 0.55), (0.66, 0.0), (XR + 
 CLIP['w'] = (XL, 0.0, XR, XH)
 G['x'] = [[(XL - 0.02, -0.02), (0.76 + 0.02, XH + 0.02)], [(XL - 0.02, XH + 0.02), (0.76 + 0.02, -0.02)]]
 CLIP['x'] = (XL, 0.0, 0.76, XH)
-G['y'] = [[(XL - 0.02, XH + 0.03), (0.46, 0.0)], [(0.76 + 0.02, XH + 0.03), (0.32, DESC + HW)]]
+Y_TAIL = 0.32 - (0.76 + 0.02 - 0.32) * (DESC_REACH - HW) / (XH + 0.03 - DESC - HW)
+G['y'] = [[(XL - 0.02, XH + 0.03), (0.46, 0.0)],
+          [(0.76 + 0.02, XH + 0.03), (Y_TAIL, DESC - DESC_REACH)]]
 CLIP['y'] = (XL, DESC, 0.76, XH)
 G['z'] = [[(XL, XT), (0.76 - HW, XT), (L, B), (0.76, B)]]
 
@@ -296,6 +309,9 @@ KEYS = {'BRACKET': 91, 'CLOSE': 93, 'LOWBAR': 91, 'TICK': 95}
 
 
 def num(v):
+    # Rounding noise of the union (such as -1e-17 on the baseline) is zero.
+    if abs(v) < 1e-9:
+        return 0.0
     v = float('%.6g' % v)
     if v == 0.0:
         v = 0.0

@@ -224,3 +224,17 @@ TEST(ModelObjects, OutlineItemGetsItsContour) {
     ASSERT_TRUE(item.get(vl, &vlKey));
     EXPECT_EQ(vl.len(), 2);
 }
+
+TEST(SolidKernel, BodyBelowTheResolutionProjectsToNothing) {
+    // Radius and depth of 5e-10, below the point tolerance of 1e-9.
+    CQor_Solid s = drill(1e-9, 5e-10, 180.0);
+    CQorArrayTempl<CQorVertexArrayEx> first, second;
+    ASSERT_TRUE(s.project(obliqueView(), true, first, second, 1));
+    EXPECT_EQ(first.len(), 0);
+    EXPECT_EQ(second.len(), 0);
+
+    // Twice the tolerance is projected.
+    CQor_Solid t = drill(4e-9, 2e-9, 180.0);
+    ASSERT_TRUE(t.project(obliqueView(), true, first, second, 1));
+    EXPECT_GT(first.len(), 0);
+}

@@ -222,7 +222,7 @@ TEST(DataText, FailedReadLosesNothingInMemory) {
     EXPECT_EQ(root.getItem(L"NEW"), nullptr);
 }
 
-TEST(DataText, DirectoriesNestedTooDeepAreRefused) {
+TEST(DataText, GuardRefusesDirectoriesNestedDeeperThanTwoHundred) {
     std::string text;
     for (int i = 0; i < kDataTextMaxDepth + 5; ++i)
         text += "\"D\" {\n";

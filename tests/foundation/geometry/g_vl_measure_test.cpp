@@ -89,10 +89,12 @@ TEST(Measure, GapInInputEndsTheDash) {
     EXPECT_NEAR(runs[2][0].m_end.x, 6.0, 1e-12);
 }
 
-TEST(Measure, TinyPatternOnLongLineStops) {
+TEST(Measure, GuardStopsTheWalkAfterFourMillionEntries) {
+    // 10^12 entries would fit; the walk stops after 4,000,000: 2,000,000 dashes.
     const auto runs = QOR::g_vl_measure(line(0, 0, 1e9, 0), 1.0, CQorLineParm(1e-3, -1e-3));
-    EXPECT_GT(runs.len(), 0);
-    EXPECT_LE(runs.len(), 2000000);
+    ASSERT_EQ(runs.len(), 2000000);
+    EXPECT_EQ(runs[0][0].m_start.x, 0.0);
+    EXPECT_NEAR(runs[1999999][0].m_end.x, 3999.999, 1e-6);
 }
 
 TEST(Measure, PatternThatFitsTheLengthEndsOnItsLastDash) {
