@@ -1,8 +1,8 @@
 #include "foundation/application/g_outline.h"
 
-#include "foundation/base/qor_tolerance.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_matrix3d.h"
 
 #include <cmath>

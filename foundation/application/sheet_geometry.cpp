@@ -1,8 +1,8 @@
 #include "foundation/application/fsheet.h"
-#include "foundation/base/qor_tolerance.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
 #include "foundation/data/dta_file_pointer.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "foundation/geometry/qor_matrix3d.h"
 

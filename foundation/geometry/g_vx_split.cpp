@@ -1,5 +1,5 @@
 // Arcs into chords, and arrays into their continuous runs.
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // Private: the circle of an arc piece, shared by the geometry of the library.
 #pragma once
 
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_vertex.h"
 
 #include <cmath>
