@@ -10,7 +10,7 @@
 
 namespace {
 
-const double kPi = 3.14159265358979323846;
+using QOR::kPi;
 
 CQorArrayTempl<CQorVertexArray> square1000() {
     CQorPoint3dArray p;

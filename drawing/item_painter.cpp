@@ -39,7 +39,7 @@ std::vector<DevicePoint> vertexPoints(const CQorVertexArray& contour) {
     return out;
 }
 
-// A copy with each arc replaced by chords that stay within 0.1 of it.
+// A copy with each arc replaced by chords that stay within kGlyphChordTol of it.
 CQorVertexArray exploded(const CQorVertexArray& contour) {
     CQorVertexArray out;
     out.normalSet(contour.normal());
@@ -49,7 +49,8 @@ CQorVertexArray exploded(const CQorVertexArray& contour) {
             out.append(v);
             continue;
         }
-        const CQorVertexArray chords = g_vl_expl(CQorVertexArray(v), g_vx_split_dif(v, 0.1));
+        const CQorVertexArray chords =
+            g_vl_expl(CQorVertexArray(v), g_vx_split_dif(v, kGlyphChordTol));
         for (int j = 0; j < chords.len(); ++j)
             out.append(chords[j]);
     }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 constexpr double kDegree = kPi / 180.0;
 // The row distance of the built-in table of "_USER" and "_U".
 constexpr double kUserRowDist = 1.0;

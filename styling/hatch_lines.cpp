@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 using Regions = CQorArrayTempl<CQorVertexArray>;
 
 void appendTransformed(Regions& out, const Regions& parts, const CQorMatrix3d& mtx) {

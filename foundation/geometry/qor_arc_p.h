@@ -9,8 +9,6 @@
 namespace QOR {
 namespace detail {
 
-constexpr double kPi = 3.14159265358979323846;
-
 // The circle of an arc: P(phi) = c + r (cos(phi) u + sin(phi) v), phi from 0 to
 // sweep, with v = n x u so that a positive sweep turns counter-clockwise about n.
 struct ArcFrame {
