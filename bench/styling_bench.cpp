@@ -1,6 +1,7 @@
 #include "foundation/geometry.h"
 #include "foundation/records/hatch_prop.h"
 #include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
 #include "styling/line_pattern.h"
 #include "styling/split.h"
 

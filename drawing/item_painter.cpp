@@ -1,9 +1,10 @@
 #include "drawing/item_painter.h"
 
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "foundation/records/units.h"
 #include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
 #include "styling/line_pattern.h"
 #include "styling/split.h"
 

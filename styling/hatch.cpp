@@ -2,6 +2,7 @@
 
 #include "foundation/application/qor_app.h"
 #include "styling/dot_length.h"
+#include "styling/hatch_crossings.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,4 +1,5 @@
 #include "styling/hatch.h"
+#include "styling/hatch_crossings.h"
 
 #include "styling_test_util.h"
 

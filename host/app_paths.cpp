@@ -1,4 +1,4 @@
-#include "host/app_files.h"
+#include "host/app_paths.h"
 
 #include "foundation/base/file_io.h"
 
