@@ -6,7 +6,7 @@
 
 namespace {
 
-const double kPi = 3.14159265358979323846;
+using QOR::kPi;
 
 // A closed polygon of n vertices on a slightly wavy circle.
 CQorVertexArray wavyCircle(double cx, double cy, double r, int n, double wave) {

@@ -1,5 +1,6 @@
 // Object images: a real slide to a display list, and a hole assembly of many members.
 #include "displaylist/gdx.h"
+#include "foundation/base/file_io.h"
 #include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
 #include "images/image_hole.h"

@@ -1,6 +1,7 @@
 #include "foundation/geometry.h"
 #include "foundation/records/hatch_prop.h"
 #include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
 #include "styling/line_pattern.h"
 #include "styling/split.h"
 
@@ -10,7 +11,7 @@
 
 namespace {
 
-const double kPi = 3.14159265358979323846;
+using QOR::kPi;
 
 CQorArrayTempl<CQorVertexArray> square1000() {
     CQorPoint3dArray p;

@@ -1,7 +1,7 @@
 // CQorGDX: view matrices, the way back from device to world, and extents.
 #include "displaylist/gdx.h"
 
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 #include "foundation/geometry.h"
 #include "foundation/records.h"
 

@@ -1,6 +1,6 @@
 #include "drawing/emf_surface.h"
 
-#include "foundation/data/data_text_format.h"
+#include "foundation/base/file_io.h"
 
 #include <algorithm>
 #include <climits>

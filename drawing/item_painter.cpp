@@ -1,9 +1,10 @@
 #include "drawing/item_painter.h"
 
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "foundation/records/units.h"
 #include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
 #include "styling/line_pattern.h"
 #include "styling/split.h"
 
@@ -39,7 +40,7 @@ std::vector<DevicePoint> vertexPoints(const CQorVertexArray& contour) {
     return out;
 }
 
-// A copy with each arc replaced by chords that stay within 0.1 of it.
+// A copy with each arc replaced by chords that stay within kGlyphChordTol of it.
 CQorVertexArray exploded(const CQorVertexArray& contour) {
     CQorVertexArray out;
     out.normalSet(contour.normal());
@@ -49,7 +50,8 @@ CQorVertexArray exploded(const CQorVertexArray& contour) {
             out.append(v);
             continue;
         }
-        const CQorVertexArray chords = g_vl_expl(CQorVertexArray(v), g_vx_split_dif(v, 0.1));
+        const CQorVertexArray chords =
+            g_vl_expl(CQorVertexArray(v), g_vx_split_dif(v, kGlyphChordTol));
         for (int j = 0; j < chords.len(); ++j)
             out.append(chords[j]);
     }

@@ -9,12 +9,11 @@
 namespace QOR {
 
 // Constants of the drawing run. Lengths of dots are millimetres (converted into
-// the drawing's unit at the start of each run); the chord tolerance is in device
-// units.
+// the drawing's unit at the start of each run). The chord tolerances of the painter
+// are kPaintChordTol and kGlyphChordTol (foundation/geometry/constants.h).
 constexpr double kPaintMargin = 0.05;
 constexpr double kPaintDotLengthMm = 0.21;
 constexpr double kPaintDotLimitMm = 0.22;
-constexpr double kPaintChordTol = 0.5;
 
 // How a resolved colour is corrected before it is drawn.
 enum class PaintColorFix {
@@ -62,7 +61,7 @@ struct QOR_API CQorPaintPolicy {
     // item's pen stays selected and edges the polygon. Hatch rows always have that
     // pen of width 1.
     bool fillOwnPen = true;
-    // Arcs of text shapes are exploded into chords (tolerance 0.1, item units)
+    // Arcs of text shapes are exploded into chords (tolerance kGlyphChordTol)
     // before anything of an entry is drawn.
     bool glyphArcsExploded = false;
     // The holes of a glyph give their points vertex by vertex, as the outer contour

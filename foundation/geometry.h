@@ -3,7 +3,7 @@
 #pragma once
 
 #include "foundation/application/g_outline.h"
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "foundation/geometry/qor_line_parm.h"
 #include "foundation/geometry/qor_matrix3d.h"

@@ -1,6 +1,6 @@
 #include "host/default_services.h"
 
-#include "host/app_files.h"
+#include "host/app_paths.h"
 #include "host/drawing_model.h"
 #include "host/layer_store.h"
 #include "host/material_store.h"

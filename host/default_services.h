@@ -9,7 +9,7 @@ namespace host {
 
 // Answers from the default host's stores: layers (layer_store.h), materials
 // (material_store.h), message files (message_store.h), the application's paths and
-// help (app_files.h), the sheet catalogue (sheet_catalog.h), the built-in outline
+// help (app_paths.h), the sheet catalogue (sheet_catalog.h), the built-in outline
 // definitions (outline_defs.h) and the drawing model's entities (drawing_model.h).
 class QOR_API CDefaultHostServices : public CHostServices {
 public:

@@ -1,5 +1,6 @@
 #include "host/drawing_model.h"
 
+#include "foundation/base/file_io.h"
 #include "foundation/data/data_dir.h"
 #include "foundation/data/data_text_format.h"
 #include "foundation/data/dta_file_pointer.h"

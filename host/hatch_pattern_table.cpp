@@ -1,7 +1,7 @@
 #include "host/hatch_pattern_table.h"
 
+#include "foundation/base/file_io.h"
 #include "foundation/base/number_text.h"
-#include "foundation/data/data_text_format.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "host/message_store.h"
 
-#include "host/app_files.h"
+#include "host/app_paths.h"
 #include "host/text_file.h"
 
 #include <map>

@@ -5,6 +5,7 @@
 #include "foundation/data/data_dir.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
+#include "foundation/geometry/constants.h"
 
 #include <cwchar>
 
@@ -26,7 +27,7 @@ struct OutlineDef {
     ParmDef parms[6];
 };
 
-constexpr double kPiValue = 3.14159265358979323846;
+using QOR::kPi;
 constexpr int kLength = 7; // no empty, zero or negative value
 constexpr int kRadius = 5; // zero allowed
 
@@ -214,9 +215,9 @@ bool QOR::host::outlineDefsFill(CQorDataItem* dir) {
                 const CQorDataKey k1(5005, L"KWORD", 5005, L"rechtwinklig", 0);
                 const CQorDataKey k2(5005, L"KWORD", 5005, L"stumpf", 0);
                 const CQorDataKey k3(5005, L"KWORD", 5005, L"spitz", 0);
-                dataItemSet(parm, &k1, kPiValue / 2.0);
-                dataItemSet(parm, &k2, kPiValue * 0.75);
-                dataItemSet(parm, &k3, kPiValue / 4.0);
+                dataItemSet(parm, &k1, kPi / 2.0);
+                dataItemSet(parm, &k2, kPi * 0.75);
+                dataItemSet(parm, &k3, kPi / 4.0);
             }
         }
     }

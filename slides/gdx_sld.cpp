@@ -2,7 +2,7 @@
 
 #include "displaylist/display_item.h"
 #include "displaylist/gdx.h"
-#include "foundation/data/data_text_format.h"
+#include "foundation/base/file_io.h"
 #include "foundation/data_tree.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "foundation/records/hatch_prop.h"

@@ -2,13 +2,14 @@
 
 #include "foundation/application/qor_app.h"
 #include "styling/dot_length.h"
+#include "styling/hatch_crossings.h"
 
 #include <cmath>
 #include <cstdint>
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 constexpr double kDegree = kPi / 180.0;
 // The row distance of the built-in table of "_USER" and "_U".
 constexpr double kUserRowDist = 1.0;

@@ -1,4 +1,4 @@
-#include "styling/hatch.h"
+#include "styling/hatch_crossings.h"
 
 namespace QOR {
 

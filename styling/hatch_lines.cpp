@@ -1,10 +1,10 @@
-#include "styling/hatch.h"
+#include "styling/hatch_lines.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 using Regions = CQorArrayTempl<CQorVertexArray>;
 
 void appendTransformed(Regions& out, const Regions& parts, const CQorMatrix3d& mtx) {

@@ -10,8 +10,6 @@ namespace QOR {
 // length, compared as it stands (it is the dot size that the painters put in
 // place of zero entries, so a painter's dot is never taken for a long dash).
 constexpr double kLongDashMin = 0.21;
-// Chord tolerance for arcs under a pattern; coarser than the plain arc splitting.
-constexpr double kPatternChordTol = 0.1;
 
 // Rotates the list left by count: element i takes the old element
 // (i + count) mod length. Nothing happens for fewer than 2 entries or count 0; a

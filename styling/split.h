@@ -6,15 +6,9 @@
 
 namespace QOR {
 
-// Chord tolerances by arc length: an arc shorter than kSplitLongArc is split so
-// that no chord is further than kSplitTolShort from it, a longer one (length
-// kSplitLongArc included) with kSplitTolLong. Units are those of the coordinates;
-// the tolerance does not follow any view or zoom.
-constexpr double kSplitLongArc = 4.0;
-constexpr double kSplitTolShort = 0.01;
-constexpr double kSplitTolLong = 0.05;
-
-// The chord tolerance for an arc of length len (measured in the arc's plane).
+// The chord tolerance for an arc of length len (measured in the arc's plane):
+// kSplitTolShort below kSplitLongArc, else kSplitTolLong
+// (foundation/geometry/constants.h).
 QOR_API double splitTolerance(double len);
 
 } // namespace QOR

@@ -5,10 +5,10 @@
 //     qor_render --model DIR --slides LIB --out DIR
 #include "displaylist/gdx.h"
 #include "drawing/refresh.h"
+#include "foundation/base/utf8.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_text_format.h"
 #include "host/install.h"
-#include "host/text_file.h"
 #include "tools/demo_documents.h"
 
 #include <cstdio>
@@ -19,7 +19,7 @@ namespace {
 
 // Arguments are UTF-8.
 std::wstring widen(const char* text) {
-    return QOR::host::fromUtf8(text, std::strlen(text)).c_str();
+    return QOR::fromUtf8(text, std::strlen(text)).c_str();
 }
 
 std::wstring withSlash(std::wstring dir) {

@@ -1,6 +1,6 @@
 #include "views/dplist_image.h"
 
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 #include "drawing/item_painter.h"
 #include "drawing/picture_loader.h"
 #include "drawing/win/gdi_surface.h"

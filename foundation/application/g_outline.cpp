@@ -1,16 +1,14 @@
 #include "foundation/application/g_outline.h"
 
-#include "foundation/base/qor_tolerance.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_matrix3d.h"
 
 #include <cmath>
 
 namespace QOR {
 namespace {
-
-constexpr double kPiValue = 3.14159265358979323846;
 
 // One corner of a section: its point and the radius of the fillet that rounds it
 // (0.0: a sharp corner).
@@ -52,7 +50,7 @@ bool roundedPolygon(const Corner* c, int n, CQorVertexArray& out) {
         if (p.r > 0.0 && std::fabs(turn) > 1e-12) {
             const double phi = std::acos(std::fmax(-1.0, std::fmin(1.0, d1.dot(d2))));
             t = p.r / std::tan(phi / 2.0);
-            const double sweep = kPiValue - phi;
+            const double sweep = kPi - phi;
             bg = std::tan(sweep / 4.0) * (turn > 0.0 ? 1.0 : -1.0);
         }
         tangent[i] = t;
@@ -201,8 +199,8 @@ bool buildSection(int code, const CQorArrayTempl<double>& parms, CQorVertexArray
     }
     case kOutlineBentPlate: {
         const double a = p1, b = p2, t = std::fabs(p4);
-        const double theta = p3 * kPiValue / 180.0;
-        if (a <= 0.0 || b <= 0.0 || t <= 0.0 || !(theta > 0.0 && theta < kPiValue))
+        const double theta = p3 * kPi / 180.0;
+        if (a <= 0.0 || b <= 0.0 || t <= 0.0 || !(theta > 0.0 && theta < kPi))
             return false;
         const double ux = std::cos(theta), uy = std::sin(theta);
         const double nx = uy, ny = -ux; // towards the first leg

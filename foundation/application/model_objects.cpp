@@ -3,6 +3,7 @@
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
 #include "foundation/data/resbuf_value.h"
+#include "foundation/geometry/constants.h"
 
 #include <cmath>
 
@@ -40,8 +41,7 @@ bool objGen(CQorDataItem* item, int mode) {
         double dia = 0.0, depth = 0.0, tip = 0.0;
         if (!drillData(item, dia, depth, tip))
             return false;
-        const double tipLen =
-            tip < 180.0 ? dia / 2.0 / std::tan(tip * 3.14159265358979323846 / 360.0) : 0.0;
+        const double tipLen = tip < 180.0 ? dia / 2.0 / std::tan(tip * kPi / 360.0) : 0.0;
         const CQorDataKey tipLenKey(L"TIPLEN"), lengthKey(L"LENGTH");
         dataItemSet(item, &tipLenKey, tipLen);
         dataItemSet(item, &lengthKey, depth + tipLen);

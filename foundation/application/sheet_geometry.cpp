@@ -1,8 +1,8 @@
 #include "foundation/application/fsheet.h"
-#include "foundation/base/qor_tolerance.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
 #include "foundation/data/dta_file_pointer.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "foundation/geometry/qor_matrix3d.h"
 
@@ -11,7 +11,6 @@
 namespace QOR {
 namespace {
 
-constexpr double kPiValue = 3.14159265358979323846;
 constexpr std::uint32_t kFaceRef = 1;
 constexpr std::uint32_t kFaceOther = 2;
 constexpr std::uint32_t kCap = 3;
@@ -165,7 +164,7 @@ bool roundedLine(const CQorPoint3dArray& p, const CQorArrayTempl<double>& radius
         const CQorPoint3d t2 = p[i] + d2 * t;
         if (t1.distanceTo(cur) > kPointTol)
             out.append(CQorVertex(cur, t1, 0.0));
-        out.append(CQorVertex(t1, t2, std::tan((kPiValue - phi) / 4.0) * (turn > 0 ? 1.0 : -1.0)));
+        out.append(CQorVertex(t1, t2, std::tan((kPi - phi) / 4.0) * (turn > 0 ? 1.0 : -1.0)));
         cur = t2;
     }
     return out.len() > 0;

@@ -1,11 +1,13 @@
 #include "foundation/application/qor_solid.h"
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
+
+#include "foundation/geometry/constants.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double kPiValue = 3.14159265358979323846;
+using QOR::kPi;
 constexpr double kFacingTol = 1e-12;
 // Circles of a smaller radius and sides of a smaller length are below the
 // kernel's resolution and are not projected.
@@ -19,10 +21,10 @@ double frontHalfWidth(double cb, double sb, double rho, double dz) {
     const double c = cb * rho;
     const double s = sb * dz;
     if (c <= kFacingTol)
-        return s > kFacingTol ? kPiValue : -1.0;
+        return s > kFacingTol ? kPi : -1.0;
     const double x = -s / c;
     if (x <= -1.0)
-        return kPiValue;
+        return kPi;
     if (x >= 1.0 - kFacingTol)
         return -1.0;
     return std::acos(x);
@@ -32,7 +34,7 @@ double frontHalfWidth(double cb, double sb, double rho, double dz) {
 // (counter-clockwise about +z), in pieces of at most half a turn.
 CQorVertexArrayEx circleArc(double r, double z, double a, double b) {
     CQorVertexArrayEx vl;
-    const int pieces = b - a > kPiValue + 1e-12 ? 2 : 1;
+    const int pieces = b - a > kPi + 1e-12 ? 2 : 1;
     const double step = (b - a) / pieces;
     for (int i = 0; i < pieces; ++i) {
         const double a0 = a + i * step;
@@ -68,7 +70,7 @@ bool CQor_Solid::setDrill(double diameter, double depth, double tipAngle) {
     p.append(CQorPoint3d(r, 0.0, 0.0));
     p.append(CQorPoint3d(r, -depth, 0.0));
     if (tipAngle < 180.0) {
-        const double tip = r / std::tan(tipAngle * kPiValue / 360.0);
+        const double tip = r / std::tan(tipAngle * kPi / 360.0);
         p.append(CQorPoint3d(0.0, -depth - tip, 0.0));
     }
     setRevolved(p);
@@ -137,7 +139,7 @@ bool CQor_Solid::evaluate(QOR_MODELER_TYPE modeler) {
     for (int i = 0; i + 1 < m_closed.len(); ++i) {
         const double r1 = m_closed[i].x, r2 = m_closed[i + 1].x;
         const double h = m_closed[i].y - m_closed[i + 1].y;
-        v += kPiValue * h * (r1 * r1 + r1 * r2 + r2 * r2) / 3.0;
+        v += kPi * h * (r1 * r1 + r1 * r2 + r2 * r2) / 3.0;
     }
     const double scale = std::fabs(m_mtx.det3());
     m_volume = v * scale;
@@ -184,13 +186,13 @@ bool CQor_Solid::project(const CQorMatrix3d& view, bool hidden,
         const double w = std::fmax(width[k - 1], width[k]);
         CQorVertexArrayEx seen;
         CQorVertexArrayEx rest;
-        if (w >= kPiValue) {
-            seen = circleArc(r, z, 0.0, 2.0 * kPiValue);
+        if (w >= kPi) {
+            seen = circleArc(r, z, 0.0, 2.0 * kPi);
         } else if (w > 0.0) {
             seen = circleArc(r, z, psi - w, psi + w);
-            rest = circleArc(r, z, psi + w, psi + 2.0 * kPiValue - w);
+            rest = circleArc(r, z, psi + w, psi + 2.0 * kPi - w);
         } else {
-            rest = circleArc(r, z, 0.0, 2.0 * kPiValue);
+            rest = circleArc(r, z, 0.0, 2.0 * kPi);
         }
         if (seen.len() > 0) {
             seen.transformBy(toView);
@@ -208,7 +210,7 @@ bool CQor_Solid::project(const CQorMatrix3d& view, bool hidden,
     // Silhouettes: the generators of a side where it turns away from the viewer.
     for (int i = 0; i + 1 < m; ++i) {
         const double w = width[i];
-        if (cosB[i] <= kFacingTol || !(w > 0.0) || w >= kPiValue)
+        if (cosB[i] <= kFacingTol || !(w > 0.0) || w >= kPi)
             continue;
         const CQorPoint3d& a = m_closed[i];
         const CQorPoint3d& b = m_closed[i + 1];

@@ -1,6 +1,8 @@
 #include "foundation/data/data_text_format.h"
 
+#include "foundation/base/file_io.h"
 #include "foundation/base/number_text.h"
+#include "foundation/base/utf8.h"
 #include "foundation/data/data_dir.h"
 #include "foundation/data/resbuf.h"
 
@@ -14,24 +16,6 @@ namespace QOR {
 namespace {
 
 constexpr bool kWide16 = sizeof(wchar_t) == 2;
-
-void putUtf8(std::string& out, std::uint32_t cp) {
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else if (cp < 0x10000) {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (cp >> 18));
-        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
 
 bool isSurrogate(std::uint32_t cp) {
     return cp >= 0xD800 && cp <= 0xDFFF;
@@ -51,7 +35,7 @@ void writeString(std::string& out, const wchar_t* s) {
         if (kWide16 && unit >= 0xD800 && unit <= 0xDBFF) {
             const std::uint32_t low = static_cast<std::uint16_t>(p[1]);
             if (low >= 0xDC00 && low <= 0xDFFF) {
-                putUtf8(out, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
+                utf8Append(out, 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
                 ++p;
                 continue;
             }
@@ -78,7 +62,7 @@ void writeString(std::string& out, const wchar_t* s) {
         if (unit < 0x20 || unit == 0x7F || isSurrogate(unit) || unit > 0x10FFFF)
             putEscape(out, unit);
         else
-            putUtf8(out, unit);
+            utf8Append(out, unit);
     }
     out += '"';
 }
@@ -381,16 +365,6 @@ private:
         return true;
     }
 
-    static void pushUnit(std::wstring& s, std::uint32_t cp) {
-        if (kWide16 && cp > 0xFFFF) {
-            cp -= 0x10000;
-            s += static_cast<wchar_t>(0xD800 + (cp >> 10));
-            s += static_cast<wchar_t>(0xDC00 + (cp & 0x3FF));
-        } else {
-            s += static_cast<wchar_t>(cp);
-        }
-    }
-
     static int hexDigit(char c) {
         if (c >= '0' && c <= '9')
             return c - '0';
@@ -455,7 +429,7 @@ private:
                                    (v > 0xFFFF && isSurrogate(static_cast<std::uint32_t>(v))))
                                 : v > 0x7FFFFFFF)
                         return fail(esc, "character out of range");
-                    pushUnit(out, static_cast<std::uint32_t>(v));
+                    wideAppend(out, static_cast<std::uint32_t>(v));
                     break;
                 }
                 default:
@@ -465,34 +439,12 @@ private:
             }
             if (c < 0x20 && c != '\t')
                 return fail(m_p, "control character in a string");
-            // UTF-8
             std::uint32_t cp = 0;
-            int more = 0;
-            if (c < 0x80) {
-                cp = c;
-            } else if ((c & 0xE0) == 0xC0) {
-                cp = c & 0x1F;
-                more = 1;
-            } else if ((c & 0xF0) == 0xE0) {
-                cp = c & 0x0F;
-                more = 2;
-            } else if ((c & 0xF8) == 0xF0) {
-                cp = c & 0x07;
-                more = 3;
-            } else {
+            const std::size_t n = utf8Decode(m_p, m_end, cp);
+            if (n == 0)
                 return fail(m_p, "invalid UTF-8");
-            }
-            const char* at = m_p;
-            ++m_p;
-            for (int k = 0; k < more; ++k, ++m_p) {
-                if (atEnd() || (static_cast<unsigned char>(*m_p) & 0xC0) != 0x80)
-                    return fail(at, "invalid UTF-8");
-                cp = (cp << 6) | (static_cast<unsigned char>(*m_p) & 0x3F);
-            }
-            static const std::uint32_t kMin[4] = {0, 0x80, 0x800, 0x10000};
-            if (cp < kMin[more] || cp > 0x10FFFF || isSurrogate(cp))
-                return fail(at, "invalid UTF-8");
-            pushUnit(out, cp);
+            m_p += n;
+            wideAppend(out, cp);
         }
     }
 
@@ -814,58 +766,6 @@ bool dataTextRead(const char* text, std::size_t size, CQorDataItem& root, CQorSt
     }
     root = fresh;
     return true;
-}
-
-#if !defined(_WIN32)
-static std::string narrowName(const wchar_t* name) {
-    std::string out;
-    for (const wchar_t* p = name; *p; ++p) {
-        std::uint32_t unit =
-            kWide16 ? static_cast<std::uint16_t>(*p) : static_cast<std::uint32_t>(*p);
-        if (kWide16 && unit >= 0xD800 && unit <= 0xDBFF && p[1]) {
-            const std::uint32_t low = static_cast<std::uint16_t>(p[1]);
-            unit = 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
-            ++p;
-        }
-        putUtf8(out, unit);
-    }
-    return out;
-}
-
-#endif
-
-std::FILE* fileOpen(const wchar_t* name, bool write) {
-    if (!name || !*name)
-        return nullptr;
-#if defined(_WIN32)
-    return _wfopen(name, write ? L"wb" : L"rb");
-#else
-    return std::fopen(narrowName(name).c_str(), write ? "wb" : "rb");
-#endif
-}
-
-bool readFileBytes(const wchar_t* fileName, std::string& out) {
-    std::FILE* f = fileOpen(fileName, false);
-    if (!f)
-        return false;
-    std::string bytes;
-    char buf[65536];
-    std::size_t n = 0;
-    while ((n = std::fread(buf, 1, sizeof buf, f)) > 0)
-        bytes.append(buf, n);
-    const bool ok = !std::ferror(f);
-    std::fclose(f);
-    if (ok)
-        out.swap(bytes);
-    return ok;
-}
-
-bool writeFileBytes(const wchar_t* fileName, const std::string& bytes) {
-    std::FILE* f = fileOpen(fileName, true);
-    if (!f)
-        return false;
-    const bool ok = std::fwrite(bytes.data(), 1, bytes.size(), f) == bytes.size();
-    return std::fclose(f) == 0 && ok;
 }
 
 bool dataTextWriteFile(const wchar_t* fileName, const CQorDataItem& root) {

@@ -5,7 +5,6 @@
 #include "foundation/data/data_item.h"
 
 #include <cstddef>
-#include <cstdio>
 #include <string>
 
 // A file holds the children of a root directory, one entry per line; the text is
@@ -65,14 +64,5 @@ QOR_API bool dataTextRead(const char* text, std::size_t size, CQorDataItem& root
 QOR_API bool dataTextReadFile(const wchar_t* fileName, CQorDataItem& root, CQorString& error);
 
 constexpr int kDataTextMaxDepth = 200;
-
-// A file by wide name on every platform (the C library gets UTF-8 where it takes
-// narrow names), opened in binary mode for reading or writing; null for a null or
-// empty name or a file that cannot be opened. The caller closes it.
-QOR_API std::FILE* fileOpen(const wchar_t* fileName, bool write);
-
-// Whole files as bytes; false when the file cannot be opened or read.
-QOR_API bool readFileBytes(const wchar_t* fileName, std::string& out);
-QOR_API bool writeFileBytes(const wchar_t* fileName, const std::string& bytes);
 
 } // namespace QOR

@@ -1,4 +1,5 @@
 // Small free functions of points, vectors, angles and vertices.
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_arc_p.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 
@@ -27,7 +28,7 @@ CQorVector3d polar(double angle, double dist) {
 double g_ang(double a) {
     if (!std::isfinite(a))
         return a;
-    const double full = 2.0 * detail::kPi;
+    const double full = 2.0 * kPi;
     a = std::fmod(a, full);
     if (a < 0.0)
         a += full;

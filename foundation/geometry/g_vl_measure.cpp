@@ -1,5 +1,5 @@
 // Walking a dash list along a vertex array.
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 
 #include <cmath>

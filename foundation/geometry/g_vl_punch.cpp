@@ -1,5 +1,5 @@
 // Punching vertex arrays by contours and regions, cutting, point in region.
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/g_planar_p.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 

@@ -1,5 +1,5 @@
 // Sorting contours into regions of outer contours and holes.
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/g_planar_p.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 

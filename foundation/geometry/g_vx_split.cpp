@@ -1,5 +1,5 @@
 // Arcs into chords, and arrays into their continuous runs.
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 
 #include <cmath>
@@ -17,7 +17,7 @@ int g_vx_split_dif(const CQorVertex& arc, double dif) {
     const double sweep = 4.0 * std::atan(b);
     const double c = 1.0 - dif / r;
     // The largest chord angle whose sagitta stays within dif.
-    const double step = c <= -1.0 ? 2.0 * 3.14159265358979323846 : 2.0 * std::acos(c);
+    const double step = c <= -1.0 ? 2.0 * kPi : 2.0 * std::acos(c);
     const double n = std::ceil(sweep / step - 1e-12);
     if (!(n < kMaxChords))
         return kMaxChords;

@@ -1,15 +1,13 @@
 // Private: the circle of an arc piece, shared by the geometry of the library.
 #pragma once
 
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_vertex.h"
 
 #include <cmath>
 
 namespace QOR {
 namespace detail {
-
-constexpr double kPi = 3.14159265358979323846;
 
 // The circle of an arc: P(phi) = c + r (cos(phi) u + sin(phi) v), phi from 0 to
 // sweep, with v = n x u so that a positive sweep turns counter-clockwise about n.

@@ -5,7 +5,7 @@
 // and whose further elements are its holes. Arrays that a function changes are
 // taken by value, results are returned by value. Angles are radians, counted
 // counter-clockwise from the x axis in the xy plane. Tolerances for "equal" and
-// "on" are QOR::kPointTol (qor_tolerance.h).
+// "on" are QOR::kPointTol (constants.h).
 #pragma once
 
 #include "foundation/base/qor_array_templ.h"

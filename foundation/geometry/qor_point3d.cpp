@@ -1,6 +1,6 @@
 #include "foundation/geometry/qor_point3d.h"
 
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 
 #include <cmath>
 

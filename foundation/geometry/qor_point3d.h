@@ -5,7 +5,7 @@
 #include "foundation/geometry/qor_vector3d.h"
 
 // Value type; the default is the origin. Equality uses QOR::kPointTol
-// (qor_tolerance.h): points closer than it are equal.
+// (constants.h): points closer than it are equal.
 class QOR_API CQorPoint3d : public CQorObj {
 public:
     CQorPoint3d() = default;

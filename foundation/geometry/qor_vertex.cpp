@@ -1,6 +1,6 @@
 #include "foundation/geometry/qor_vertex.h"
 
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_arc_p.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "foundation/geometry/qor_vertex_array.h"
 
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/g_planar_p.h"
 #include "foundation/geometry/qor_arc_p.h"
 #include "foundation/geometry/qor_geom_fcn.h"
@@ -67,11 +67,11 @@ bool CQorVertexArray::extents(CQorPoint3d& min, CQorPoint3d& max) const {
             if (f.u[k] == 0.0 && f.v[k] == 0.0)
                 continue;
             const double phi = std::atan2(f.v[k], f.u[k]);
-            for (double cand : {phi, phi + QOR::detail::kPi}) {
+            for (double cand : {phi, phi + QOR::kPi}) {
                 double a = f.sweep > 0.0 ? cand : -cand;
-                a = std::fmod(a, 2.0 * QOR::detail::kPi);
+                a = std::fmod(a, 2.0 * QOR::kPi);
                 if (a < 0.0)
-                    a += 2.0 * QOR::detail::kPi;
+                    a += 2.0 * QOR::kPi;
                 if (a <= std::fabs(f.sweep))
                     widen(min, max, f.at(cand));
             }

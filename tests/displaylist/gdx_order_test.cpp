@@ -1,5 +1,5 @@
 #include "displaylist/gdx.h"
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 
 #include "gdx_test_util.h"
 

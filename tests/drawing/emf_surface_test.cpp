@@ -2,7 +2,7 @@
 #include "drawing/emf_surface.h"
 #include "drawing/item_painter.h"
 #include "drawing/refresh.h"
-#include "foundation/data/data_text_format.h"
+#include "foundation/base/file_io.h"
 #include "tests/displaylist/gdx_test_util.h"
 
 #include <gtest/gtest.h>

@@ -5,8 +5,7 @@
 
 #include <gtest/gtest.h>
 
-// Pi, spelled out: M_PI is not standard C++ and MinGW hides it.
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 
 namespace geomtest {
 

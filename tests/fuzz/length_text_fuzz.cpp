@@ -1,8 +1,8 @@
 // Fuzz target of qorAtoF: the bytes are taken as UTF-8 text (invalid bytes as
 // single characters) and read as a length. The result must be finite; a text that
 // qorRtoS writes for it must read back to a number that writes the same text.
+#include "foundation/base/utf8.h"
 #include "foundation/records/length_text.h"
-#include "host/text_file.h"
 
 #include <cmath>
 #include <cstdint>
@@ -10,7 +10,7 @@
 #include <cwchar>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const CQorString text = QOR::host::fromUtf8(reinterpret_cast<const char*>(data), size);
+    const CQorString text = QOR::fromUtf8(reinterpret_cast<const char*>(data), size);
     const double v = qorAtoF(text.c_str());
     if (!std::isfinite(v))
         std::abort();

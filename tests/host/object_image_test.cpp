@@ -4,6 +4,7 @@
 #include "foundation/application.h"
 #include "foundation/data/data_text_format.h"
 #include "foundation/data_tree.h"
+#include "foundation/geometry/constants.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,7 @@ TEST(HostObjectImage, DrillIsDrawnInPlanAsCircleAndCentreCross) {
     gdx.geomGet(circle, 0);
     ASSERT_EQ(circle.len(), 2);
     EXPECT_EQ(circle[0].m_bulge, 1.0);
-    EXPECT_NEAR(circle[0].bulgLen() + circle[1].bulgLen(), 3.14159265358979 * 8.0, 1e-9);
+    EXPECT_NEAR(circle[0].bulgLen() + circle[1].bulgLen(), QOR::kPi * 8.0, 1e-9);
     // The cross reaches a quarter of the radius past the circle: 5 from the centre.
     CQorPoint3d lo, hi;
     ASSERT_TRUE(gdx.extmaxGet(lo, hi));

@@ -4,6 +4,7 @@
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_iterator.h"
 #include "foundation/data/data_key.h"
+#include "foundation/geometry/constants.h"
 #include "host/outline_defs.h"
 
 #include <gtest/gtest.h>
@@ -120,7 +121,7 @@ TEST(OutlineInit, BentPlateAngleIsAnAngleWithNamedValues) {
     const CQorDataKey kw(L"KWORD\\rechtwinklig");
     double v = 0.0;
     ASSERT_TRUE(parm->get(v, &kw));
-    EXPECT_NEAR(v, 3.14159265358979323846 / 2.0, 1e-15);
+    EXPECT_NEAR(v, QOR::kPi / 2.0, 1e-15);
     const CQorDataKey val(5005, L"VAL", 5003, 3, 0);
     ASSERT_TRUE(parm->get(v, &val));
     EXPECT_EQ(v, 90.0); // stored in degrees

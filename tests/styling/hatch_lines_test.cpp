@@ -1,4 +1,4 @@
-#include "styling/hatch.h"
+#include "styling/hatch_lines.h"
 
 #include "styling_test_util.h"
 
@@ -11,7 +11,7 @@ using styling_test::rect;
 using styling_test::region;
 
 namespace {
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 constexpr double kEps = 1e-9;
 using Rows = CQorArrayTempl<CQorVertexArray>;
 } // namespace

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 using Rows = CQorArrayTempl<CQorVertexArray>;
 using Table = CQorArrayTempl<CQorArrayTempl<double>>;
 

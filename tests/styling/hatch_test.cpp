@@ -1,4 +1,5 @@
 #include "styling/hatch.h"
+#include "styling/hatch_crossings.h"
 
 #include "styling_test_util.h"
 
@@ -15,7 +16,7 @@ using styling_test::region;
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 constexpr double kEps = 1e-9;
 using Rows = CQorArrayTempl<CQorVertexArray>;
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 
 // A half circle of the given arc length from the origin along +x, in the xy plane.
 CQorVertex halfCircle(double length) {

@@ -1,5 +1,7 @@
 // Input that no caller should pass still ends quickly and without harm.
 #include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
+#include "styling/hatch_lines.h"
 #include "styling/line_pattern.h"
 #include "styling/split.h"
 

@@ -2,7 +2,7 @@
 // the pointer, panning with the middle button and picking with the left button.
 #include "views/dplist_image.h"
 
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 #include "tests/displaylist/gdx_test_util.h"
 #include "tests/views/view_test_util.h"
 

@@ -1,6 +1,7 @@
 #include "foundation/application/model_services.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_key.h"
+#include "foundation/geometry/constants.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +9,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr double kPiV = 3.14159265358979323846;
 
 // The oblique view of the drill image: x along (1, 1, 0), z along (1, -1, 1),
 // y = z x x, all of unit length.
@@ -146,9 +145,9 @@ TEST(SolidKernel, SideViewShowsHalfCirclesAsStraightExtents) {
 
 TEST(SolidKernel, EvaluateGivesTheVolume) {
     CQor_Solid s = drill(10.0, 20.0, 90.0);
-    EXPECT_NEAR(s.volume(), kPiV * 25 * 20 + kPiV * 25 * 5 / 3.0, 1e-9);
+    EXPECT_NEAR(s.volume(), QOR::kPi * 25 * 20 + QOR::kPi * 25 * 5 / 3.0, 1e-9);
     CQor_Solid flat = drill(10.0, 20.0, 180.0);
-    EXPECT_NEAR(flat.volume(), kPiV * 25 * 20, 1e-9);
+    EXPECT_NEAR(flat.volume(), QOR::kPi * 25 * 20, 1e-9);
 }
 
 TEST(SolidKernel, CallsOutOfOrderOrWithAnotherModelerFail) {
@@ -205,7 +204,7 @@ TEST(ModelObjects, DrillItemHasASolidAndGeneratedLengths) {
     ASSERT_TRUE(QOR::objGen(&item, 0));
     double length = 0.0;
     ASSERT_TRUE(item.get(length, &len));
-    EXPECT_NEAR(length, 20.0 + 5.0 / std::tan(59.0 * kPiV / 180.0), 1e-12);
+    EXPECT_NEAR(length, 20.0 + 5.0 / std::tan(59.0 * QOR::kPi / 180.0), 1e-12);
     EXPECT_FALSE(QOR::objModel(s, nullptr));
     EXPECT_FALSE(QOR::objGen(nullptr, 0));
     dataItemSet(&item, &type, CQorString(L"WALL"));

@@ -1,4 +1,4 @@
-#include "foundation/base/qor_tolerance.h"
+#include "foundation/geometry/constants.h"
 #include "foundation/geometry/qor_matrix3d.h"
 #include "foundation/geometry/qor_point3d.h"
 

@@ -1,6 +1,6 @@
 #include "foundation/records/messages.h"
 
-#include "host/app_files.h"
+#include "host/app_paths.h"
 #include "host/message_store.h"
 
 #include <gtest/gtest.h>

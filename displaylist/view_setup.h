@@ -1,4 +1,4 @@
-// Free functions of the views: fitting a box into an output area, the compass
+// Setting up a view: fitting a box into an output area, the compass
 // directions of view, and vertex arrays seen from a direction.
 #pragma once
 

@@ -1,4 +1,4 @@
-#include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
 
 #include "foundation/application/qor_app.h"
 
@@ -7,7 +7,7 @@
 #include <cmath>
 
 namespace {
-constexpr double kPi = 3.14159265358979323846;
+using QOR::kPi;
 constexpr double kDegree = kPi / 180.0;
 } // namespace
 

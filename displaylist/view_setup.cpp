@@ -1,4 +1,4 @@
-#include "displaylist/view_mtx.h"
+#include "displaylist/view_setup.h"
 
 #include "foundation/geometry.h"
 #include "foundation/records.h"

@@ -1,4 +1,4 @@
-#include "styling/hatch.h"
+#include "styling/hatch_density_guard.h"
 
 #include "styling_test_util.h"
 

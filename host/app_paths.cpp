@@ -1,6 +1,6 @@
-#include "host/app_files.h"
+#include "host/app_paths.h"
 
-#include "host/text_file.h"
+#include "foundation/base/file_io.h"
 
 #include <map>
 #include <string>
