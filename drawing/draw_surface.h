@@ -41,7 +41,7 @@ struct DeviceBitmap {
 // Device coordinates are integers, y down, origin at the upper left of the output.
 // Colours are 0x00BBGGRR. A surface owns the pen and brush it holds: selecting a
 // new one frees the one before, so the painter never leaks a GDI object.
-class QOR_API CQorDrawSurface {
+class CQorDrawSurface {
 public:
     virtual ~CQorDrawSurface();
 
@@ -104,7 +104,7 @@ struct DrawCall {
 };
 
 // Keeps every call in order. Nothing is drawn; tests read calls() or text().
-class QOR_API CQorRecordingSurface : public CQorDrawSurface {
+class CQorRecordingSurface : public CQorDrawSurface {
 public:
     ~CQorRecordingSurface() override;
 

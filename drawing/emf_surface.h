@@ -37,7 +37,7 @@ enum EmfRecord : std::uint32_t {
 // The reference device is taken as 96 dots per inch: szlDevice 1024 by 768,
 // szlMillimeters 271 by 203; the frame is the bounds in 0.01 mm at that scale.
 // Clip regions are stored as the rectangles of their rows, as region data is.
-class QOR_API CQorEmfSurface : public CQorDrawSurface {
+class CQorEmfSurface : public CQorDrawSurface {
 public:
     CQorEmfSurface();
     ~CQorEmfSurface() override;
@@ -96,11 +96,11 @@ private:
 // with pixel centres on the integers as GDI fills a polygon region: rows are
 // sampled at their own y, left edges are in and right edges out, and spans that
 // touch are one.
-QOR_API std::vector<int> polygonRowRects(const std::vector<DevicePoint>& pts);
+std::vector<int> polygonRowRects(const std::vector<DevicePoint>& pts);
 
 // Rectangles of rows (as polygonRowRects gives them, sorted by row) joined into
 // the bands of region data: consecutive rows with the same spans become one
 // rectangle per span, as GDI stores a region.
-QOR_API std::vector<int> regionBands(const std::vector<int>& rows);
+std::vector<int> regionBands(const std::vector<int>& rows);
 
 } // namespace QOR

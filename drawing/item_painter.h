@@ -35,7 +35,7 @@ enum class PaintFill {
 
 // What differs between outputs: metafile() gives the values of refresh, screen()
 // those of the window. Everything else of the drawing is shared.
-struct QOR_API CQorPaintPolicy {
+struct CQorPaintPolicy {
     PaintColorFix colorFix = PaintColorFix::WhiteToBlack;
     // An item of colour mode 0 without a colour index (index -1, drawn in the
     // inverse of the background) fills with its line colour, whatever its fcolor.
@@ -79,7 +79,7 @@ struct QOR_API CQorPaintPolicy {
 };
 
 // The matrices of one run (device space, y down).
-struct QOR_API CQorPaintMatrices {
+struct CQorPaintMatrices {
     CQorMatrix3d view;  // fits the document's view box into the output
     CQorMatrix3d base;  // zoom * view * proj
     CQorMatrix3d vd;    // the document's direction of view
@@ -92,7 +92,7 @@ struct QOR_API CQorPaintMatrices {
 using PictureLoader = bool (*)(const CQorString& name, int number, int width, int height,
                                bool transparent, unsigned long back, DeviceBitmap& out);
 
-class QOR_API CQorItemPainter {
+class CQorItemPainter {
 public:
     CQorItemPainter(CQorDrawSurface& surface, const CQorPaintPolicy& policy);
 

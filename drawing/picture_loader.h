@@ -8,8 +8,8 @@
 namespace QOR {
 
 // The loader installed, or null (pictures then draw nothing).
-QOR_API PictureLoader pictureLoaderDefault();
+PictureLoader pictureLoaderDefault();
 // Installs loader for every painter made from now on; null removes it.
-QOR_API void pictureLoaderDefaultSet(PictureLoader loader);
+void pictureLoaderDefaultSet(PictureLoader loader);
 
 } // namespace QOR

@@ -29,15 +29,15 @@ constexpr int kHimetricPerInch = 2540;
 // The greater of pixel.cy / client.cy and pixel.cx / client.cx, never below 1.0:
 // a picture smaller than the client area is not enlarged. An empty client area
 // gives an infinite scale (the picture shrinks to nothing), never NaN.
-QOR_API double pictureFitScale(PictureSize pixel, PictureSize client);
+double pictureFitScale(PictureSize pixel, PictureSize client);
 // The upper left corner that centres the picture, shrunk by the fit's scale.
-QOR_API PicturePoint pictureFitOffset(PictureSize pixel, PictureSize client);
+PicturePoint pictureFitOffset(PictureSize pixel, PictureSize client);
 // A size in HIMETRIC units as pixels at dpiX by dpiY, rounded (integer division).
-QOR_API PictureSize picturePixelSize(PictureSize hiSize, int dpiX, int dpiY);
+PictureSize picturePixelSize(PictureSize hiSize, int dpiX, int dpiY);
 // One wheel step about p (client coordinates): a delta below 1 zooms out by 1.5,
 // else in by 1.5, each offset moving so that the point under p stays. False, with
 // nothing changed, when zoom is above the upper limit (zoom in) or below the lower
 // one (zoom out).
-QOR_API bool pictureWheelZoom(double& zoom, PicturePoint& offset, PicturePoint p, int delta);
+bool pictureWheelZoom(double& zoom, PicturePoint& offset, PicturePoint p, int delta);
 
 } // namespace QOR

@@ -12,6 +12,6 @@ constexpr double kDotWeight = 1.0;
 
 // kDotSizeMm in the drawing's current unit (QOR::acad_unit_get); read anew on each
 // call, so a change of the drawing's unit takes effect at once.
-QOR_API double styleDotLength();
+double styleDotLength();
 
 } // namespace QOR

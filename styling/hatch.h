@@ -41,10 +41,9 @@ struct HatchFamilyStats {
 
 // qor_gdx_image_reg_hatch2 with a record of each family (appended to stats in the
 // order of hatching, the turned family of a cross hatch first). stats may be null.
-QOR_API CQorArrayTempl<CQorVertexArray> hatchRegion2(CQorArrayTempl<CQorVertexArray> regions,
-                                                     const CQorMatrix3d& mtx,
-                                                     const CHatchProp& prop,
-                                                     CQorArrayTempl<HatchFamilyStats>* stats);
+CQorArrayTempl<CQorVertexArray> hatchRegion2(CQorArrayTempl<CQorVertexArray> regions,
+                                             const CQorMatrix3d& mtx, const CHatchProp& prop,
+                                             CQorArrayTempl<HatchFamilyStats>* stats);
 
 } // namespace QOR
 

@@ -14,16 +14,16 @@ constexpr double kLongDashMin = 0.21;
 // Rotates the list left by count: element i takes the old element
 // (i + count) mod length. Nothing happens for fewer than 2 entries or count 0; a
 // negative count rotates right.
-QOR_API void dashArrayRotate(CQorArrayTempl<double>& pattern, int count);
+void dashArrayRotate(CQorArrayTempl<double>& pattern, int count);
 // The turn of mode 1: with i from 0 while i is below the length, stop at the
 // first i with pattern[i] > kLongDashMin and pattern[i + 1] < 0, else rotate the
 // list left by one and go on with i + 1 (the list turns and the index moves, so
 // every second element of the starting order is looked at, and the read at
 // i + 1 may lengthen the list by a 0.0). After a hit, pattern[0] is halved and
 // its half appended. Returns whether there was a hit.
-QOR_API bool dashArrayRephase(CQorArrayTempl<double>& pattern);
+bool dashArrayRephase(CQorArrayTempl<double>& pattern);
 // Drops every vertex of vl into the xy plane (QOR::g_vx_xy) and returns vl.
-QOR_API CQorVertexArray vlFlatten(CQorVertexArray vl);
+CQorVertexArray vlFlatten(CQorVertexArray vl);
 
 } // namespace QOR
 

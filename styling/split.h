@@ -9,7 +9,7 @@ namespace QOR {
 // The chord tolerance for an arc of length len (measured in the arc's plane):
 // kSplitTolShort below kSplitLongArc, else kSplitTolLong
 // (foundation/geometry/constants.h).
-QOR_API double splitTolerance(double len);
+double splitTolerance(double len);
 
 } // namespace QOR
 

@@ -31,6 +31,6 @@ constexpr double kTxtEndCorrection = 0.3;
 // contours is padded with empty ones (so n regions carry n contours each, a
 // number of contours quadratic in the length of the text), and contours with
 // an index of n or more keep their place. Null strings count as empty.
-QOR_API GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint3d& point,
-                               GlyphFn glyphs);
+GlyphRegions txtLayout(const wchar_t* txt, const wchar_t* align, const CQorPoint3d& point,
+                       GlyphFn glyphs);
 } // namespace QOR

@@ -38,11 +38,11 @@ namespace QOR {
 // The background colour of the bitmap selected into dc, of width by height: the
 // vote of five pixels (the four corners and the middle; a colour's count is its
 // number of samples); on a tie the lowest colour value wins.
-QOR_API unsigned long bitmapBkColorVote(HDC dc, int width, int height);
+unsigned long bitmapBkColorVote(HDC dc, int width, int height);
 
 // Draws bitmap at x, y on dc, leaving out the pixels of its background colour (the
 // vote above) by three raster copies through a one-bit mask.
-QOR_API void bitmapDrawTransparent(HDC dc, int x, int y, HBITMAP bitmap);
+void bitmapDrawTransparent(HDC dc, int x, int y, HBITMAP bitmap);
 
 } // namespace QOR
 
@@ -50,5 +50,5 @@ namespace QOR {
 // Makes the bitmaps of qor_gdx_image_get_bitmap the pictures of picture items for
 // every painter made from now on (metafile and screen). The library calls it at
 // load, beside QOR::host::installDefaultHost; Windows test programs at start.
-QOR_API void pictureLoaderInstall();
+void pictureLoaderInstall();
 } // namespace QOR

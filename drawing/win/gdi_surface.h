@@ -13,7 +13,7 @@ namespace QOR {
 // creates are its own: selecting a new one frees the one before, and freeing
 // selects the stock black pen or white brush back, so every object is deleted
 // while it is not selected. The destructor frees what is still selected.
-class QOR_API CQorGdiSurface : public CQorDrawSurface {
+class CQorGdiSurface : public CQorDrawSurface {
 public:
     explicit CQorGdiSurface(HDC dc);
     ~CQorGdiSurface() override;
@@ -56,6 +56,6 @@ private:
 
 // The pixels of a bitmap as a DeviceBitmap (rows from the top, 0x00BBGGRR), read
 // through a 32-bit DIB. False for a null or unreadable bitmap.
-QOR_API bool deviceBitmapFromHandle(HBITMAP bitmap, DeviceBitmap& out);
+bool deviceBitmapFromHandle(HBITMAP bitmap, DeviceBitmap& out);
 
 } // namespace QOR
