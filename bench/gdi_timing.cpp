@@ -4,9 +4,9 @@
 // times with a steady clock and reports the best of several runs.
 #include "bench_documents.h"
 #include "best_of_runs.h"
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 #include "drawing/refresh.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/win/gdi_surface_p.h"
 #include "host/install.h"
 
 #include <windows.h>

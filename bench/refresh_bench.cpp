@@ -1,8 +1,8 @@
 // The painter into the native metafile surface against a raw loop of the same
 // number of move and line calls on that surface.
 #include "bench_documents.h"
-#include "drawing/emf_surface.h"
-#include "drawing/item_painter.h"
+#include "drawing/emf_surface_p.h"
+#include "drawing/item_painter_p.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #include "displaylist/gdx.h"
 #include "text/glyph_table.h"
-#include "text/text_layout.h"
+#include "text/text_layout_p.h"
 #include "text/text_to_regl.h"
 
 #include <benchmark/benchmark.h>

@@ -124,7 +124,7 @@ public:
 
     // --- Text items (gdx_text.cpp). Glyph units: cap height 1.0; size, rotation and
     // placement come from mtx. From a string: laid out with the built-in font
-    // (text/text_layout.h), aligned by align, at point; a null text or
+    // (text/text_layout_p.h), aligned by align, at point; a null text or
     // alignment counts as empty. From a data item: the regions the host answers to
     // "qor_text_to_regl"; false, with nothing added, for a null item, one that is no
     // directory, or no regions. Unless the flag has GDX_FLAG_NO_EXT or

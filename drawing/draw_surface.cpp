@@ -1,4 +1,4 @@
-#include "drawing/draw_surface.h"
+#include "drawing/draw_surface_p.h"
 
 #include <cstdio>
 

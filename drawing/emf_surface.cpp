@@ -1,4 +1,4 @@
-#include "drawing/emf_surface.h"
+#include "drawing/emf_surface_p.h"
 
 #include "foundation/base/file_io.h"
 

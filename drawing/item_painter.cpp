@@ -1,4 +1,4 @@
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 
 #include "displaylist/view_setup.h"
 #include "foundation/geometry/qor_geom_fcn.h"

@@ -1,4 +1,4 @@
-#include "drawing/picture_loader.h"
+#include "drawing/picture_loader_p.h"
 
 namespace QOR {
 

@@ -1,8 +1,8 @@
 #include "drawing/refresh.h"
 
-#include "drawing/emf_surface.h"
-#include "drawing/item_painter.h"
-#include "drawing/picture_loader.h"
+#include "drawing/emf_surface_p.h"
+#include "drawing/item_painter_p.h"
+#include "drawing/picture_loader_p.h"
 
 // The native build writes the metafile itself; there is no clipboard, so a
 // null file draws the document (sorting it and setting its view) and drops the

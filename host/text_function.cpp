@@ -3,7 +3,7 @@
 #include "foundation/base/qor_string.h"
 #include "foundation/data/resbuf_value.h"
 #include "text/glyph_table.h"
-#include "text/text_layout.h"
+#include "text/text_layout_p.h"
 #include "text/text_to_regl.h"
 
 namespace {

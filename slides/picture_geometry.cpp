@@ -1,6 +1,6 @@
-#include "slides/picture_geometry.h"
+#include "slides/picture_geometry_p.h"
 
-#include "drawing/draw_surface.h"
+#include "drawing/draw_surface_p.h"
 
 #include <limits>
 

@@ -1,4 +1,4 @@
-#include "styling/dot_length.h"
+#include "styling/dot_length_p.h"
 
 #include "foundation/records/units.h"
 

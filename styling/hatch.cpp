@@ -1,8 +1,8 @@
 #include "styling/hatch.h"
 
 #include "foundation/application/qor_app.h"
-#include "styling/dot_length.h"
-#include "styling/hatch_crossings.h"
+#include "styling/dot_length_p.h"
+#include "styling/hatch_crossings_p.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "styling/hatch_crossings.h"
+#include "styling/hatch_crossings_p.h"
 
 namespace QOR {
 

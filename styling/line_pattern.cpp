@@ -1,6 +1,6 @@
 #include "styling/line_pattern.h"
 
-#include "styling/dot_length.h"
+#include "styling/dot_length_p.h"
 
 #include <cmath>
 

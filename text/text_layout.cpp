@@ -1,4 +1,4 @@
-#include "text/text_layout.h"
+#include "text/text_layout_p.h"
 
 #include "foundation/geometry.h"
 

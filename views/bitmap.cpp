@@ -1,8 +1,8 @@
 #include "views/bitmap.h"
 
-#include "drawing/picture_loader.h"
-#include "drawing/win/gdi_handle.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/picture_loader_p.h"
+#include "drawing/win/gdi_handle_p.h"
+#include "drawing/win/gdi_surface_p.h"
 #include "foundation/application/app_file_name.h"
 #include "foundation/application/app_files.h"
 #include "foundation/base/qor_map_templ.h"

@@ -1,9 +1,9 @@
 #include "views/dplist_image.h"
 
 #include "displaylist/view_setup.h"
-#include "drawing/item_painter.h"
-#include "drawing/picture_loader.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/item_painter_p.h"
+#include "drawing/picture_loader_p.h"
+#include "drawing/win/gdi_surface_p.h"
 #include "framework/bitmap.h"
 #include "framework/module_state.h"
 #include "framework/paint_dc.h"

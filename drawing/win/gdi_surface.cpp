@@ -1,4 +1,4 @@
-#include "drawing/win/gdi_surface.h"
+#include "drawing/win/gdi_surface_p.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 #include "drawing/refresh.h"
 
-#include "drawing/item_painter.h"
-#include "drawing/picture_loader.h"
-#include "drawing/win/gdi_handle.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/item_painter_p.h"
+#include "drawing/picture_loader_p.h"
+#include "drawing/win/gdi_handle_p.h"
+#include "drawing/win/gdi_surface_p.h"
 
 // GDI records the metafile: no reference device (the screen stands in) and no
 // frame, so the picture's bounds are what was drawn. A metafile that can't be

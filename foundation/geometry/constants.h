@@ -28,7 +28,7 @@ constexpr double kSplitTolLong = 0.05;
 // splitting.
 constexpr double kPatternChordTol = 0.1;
 // Arcs of outlines, regions and polylines drawn by the painter
-// (drawing/item_painter.h), in device units.
+// (drawing/item_painter_p.h), in device units.
 constexpr double kPaintChordTol = 0.5;
 // Arcs of text shapes that the painter explodes into chords before it draws them,
 // in item units.

@@ -1,6 +1,6 @@
 #include "slides/win/picture.h"
 
-#include "drawing/draw_surface.h"
+#include "drawing/draw_surface_p.h"
 #include "framework/bitmap.h"
 #include "framework/meta_file_dc.h"
 #include "framework/paint_dc.h"

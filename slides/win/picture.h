@@ -4,7 +4,7 @@
 
 #include "foundation/base/qor_export.h"
 #include "framework/wnd.h"
-#include "slides/picture_geometry.h"
+#include "slides/picture_geometry_p.h"
 
 #include <ole2.h>
 #include <olectl.h>

@@ -1,6 +1,6 @@
 #include "slides/win/slide_pic.h"
 
-#include "drawing/draw_surface.h"
+#include "drawing/draw_surface_p.h"
 #include "foundation/records/color_palette.h"
 #include "framework/meta_file_dc.h"
 #include "framework/module_state.h"

@@ -1,5 +1,5 @@
 #include "text/glyph_table.h"
-#include "text/text_layout.h"
+#include "text/text_layout_p.h"
 #include "text/text_to_regl.h"
 
 #include "foundation/data/resbuf_value.h"

@@ -1,6 +1,6 @@
 // The enhanced metafile surface: records read back in order, with their payloads.
-#include "drawing/emf_surface.h"
-#include "drawing/item_painter.h"
+#include "drawing/emf_surface_p.h"
+#include "drawing/item_painter_p.h"
 #include "drawing/refresh.h"
 #include "foundation/base/file_io.h"
 #include "tests/displaylist/gdx_test_util.h"

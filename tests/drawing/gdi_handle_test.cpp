@@ -1,6 +1,6 @@
 // Owning and borrowed GDI handles and the selection: whether the object is still
 // there after the holder goes, judged by GetObjectType (0 for a freed handle).
-#include "drawing/win/gdi_handle.h"
+#include "drawing/win/gdi_handle_p.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // The GDI surface and refresh through GDI: the metafile read back with GDI's record
 // enumeration, compared with the native metafile surface, and played into bitmaps.
-#include "drawing/emf_surface.h"
-#include "drawing/item_painter.h"
+#include "drawing/emf_surface_p.h"
+#include "drawing/item_painter_p.h"
 #include "drawing/refresh.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/win/gdi_surface_p.h"
 #include "emf_records.h"
 #include "foundation/records/hatch_prop.h"
 #include "tests/displaylist/gdx_test_util.h"

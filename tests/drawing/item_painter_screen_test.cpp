@@ -1,6 +1,6 @@
 // The item painter with the screen's policy on the recording surface: the frame of
 // a window's paint and every way the screen draws otherwise than the metafile.
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 #include "foundation/geometry/qor_geom_fcn.h"
 #include "painter_test_util.h"
 #include "styling/line_pattern.h"

@@ -1,5 +1,5 @@
 // The item painter on the recording surface: exact calls in device integers.
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 #include "painter_test_util.h"
 
 #include <gtest/gtest.h>

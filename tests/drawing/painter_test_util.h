@@ -1,7 +1,7 @@
 // Builders and call-list helpers shared by the tests of the item painter.
 #pragma once
 
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 #include "tests/displaylist/gdx_test_util.h"
 
 #include <initializer_list>

@@ -2,8 +2,8 @@
 // and played into a bitmap they give the expected pixels.
 #include <windows.h>
 
-#include "drawing/emf_surface.h"
-#include "drawing/item_painter.h"
+#include "drawing/emf_surface_p.h"
+#include "drawing/item_painter_p.h"
 
 #include "tests/framework/test_dib.h"
 

@@ -1,5 +1,5 @@
 // The picture window's geometry: fit, pixel size, wheel zoom, with hand-computed values.
-#include "slides/picture_geometry.h"
+#include "slides/picture_geometry_p.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "styling/hatch.h"
-#include "styling/hatch_crossings.h"
+#include "styling/hatch_crossings_p.h"
 
 #include "styling_test_util.h"
 

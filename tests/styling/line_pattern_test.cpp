@@ -1,7 +1,7 @@
 #include "styling/line_pattern.h"
 
 #include "foundation/records/units.h"
-#include "styling/dot_length.h"
+#include "styling/dot_length_p.h"
 
 #include "styling_test_util.h"
 

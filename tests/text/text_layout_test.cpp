@@ -6,7 +6,7 @@
 #include "foundation/data_tree.h"
 #include "foundation/geometry.h"
 #include "text/glyph_table.h"
-#include "text/text_layout.h"
+#include "text/text_layout_p.h"
 #include "text/text_to_regl.h"
 
 #include <gtest/gtest.h>

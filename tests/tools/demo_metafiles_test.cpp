@@ -1,10 +1,10 @@
 // The documents of the main job drawn twice in one process, by the native metafile
 // surface and through GDI: the two metafiles hold the same records with the same
 // payloads, clip regions included.
-#include "drawing/emf_surface.h"
-#include "drawing/item_painter.h"
-#include "drawing/picture_loader.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/emf_surface_p.h"
+#include "drawing/item_painter_p.h"
+#include "drawing/picture_loader_p.h"
+#include "drawing/win/gdi_surface_p.h"
 #include "foundation/data/data_item.h"
 #include "foundation/data/data_text_format.h"
 #include "tests/drawing/emf_records.h"

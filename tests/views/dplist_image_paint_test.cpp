@@ -2,9 +2,9 @@
 // messages, and the window's image against the painter's own on a DIB section.
 #include "views/dplist_image.h"
 
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 #include "drawing/refresh.h"
-#include "drawing/win/gdi_surface.h"
+#include "drawing/win/gdi_surface_p.h"
 #include "tests/drawing/painter_test_util.h"
 #include "tests/views/view_test_util.h"
 

@@ -4,8 +4,8 @@
 
 #include <windows.h>
 
-#include "drawing/draw_surface.h"
-#include "drawing/win/gdi_handle.h"
+#include "drawing/draw_surface_p.h"
+#include "drawing/win/gdi_handle_p.h"
 
 namespace QOR {
 

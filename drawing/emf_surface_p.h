@@ -3,7 +3,7 @@
 // layout are those of the public EMF format; the byte order is little-endian.
 #pragma once
 
-#include "drawing/draw_surface.h"
+#include "drawing/draw_surface_p.h"
 
 #include <cstdint>
 #include <string>

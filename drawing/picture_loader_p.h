@@ -3,7 +3,7 @@
 // QOR::pictureLoaderInstall) installs its loader here where the library is wired.
 #pragma once
 
-#include "drawing/item_painter.h"
+#include "drawing/item_painter_p.h"
 
 namespace QOR {
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "displaylist/gdx.h"
-#include "drawing/draw_surface.h"
+#include "drawing/draw_surface_p.h"
 
 namespace QOR {
 
